@@ -1,0 +1,37 @@
+#pragma once
+
+#include "ZemArrayTempl.h"
+#include "ZemObj.h"
+
+// Base of the non-template arrays (vertex lists, point lists): a logical
+// length that callers shrink to 0 to reuse an array and grow by one to add.
+class CZemArray : public CZemObj {
+public:
+    virtual int len() const = 0;
+    virtual int setLogicalLength(int n) = 0;
+};
+
+// The shared body of the non-template arrays: a CZemArrayTempl<T> with its
+// indexing rules (negative indices from the end, a writing index that
+// extends, a reading index that yields a shared default element).
+template <class T>
+class CZemArrayOf : public CZemArray {
+public:
+    int len() const override { return m_items.len(); }
+    int setLogicalLength(int n) override { return m_items.setLogicalLength(n); }
+    bool isEmpty() const { return m_items.len() == 0; }
+
+    T& operator[](int i) { return m_items[i]; }
+    const T& operator[](int i) const { return m_items[i]; }
+
+    void insertAt(int i, const T& x) { m_items.insertAt(i, x); }
+    void removeAt(int i) { m_items.removeAt(i); }
+
+    const CZemArrayTempl<T>& items() const { return m_items; }
+
+protected:
+    void appendItem(const T& x) { m_items.append(x); }
+    void revertItems() { m_items.revert(); }
+
+    CZemArrayTempl<T> m_items;
+};
