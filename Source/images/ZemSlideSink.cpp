@@ -1,0 +1,3 @@
+#include "ZemSlideSink.h"
+
+void CZemSlideSink::slideSize(int, int) {}

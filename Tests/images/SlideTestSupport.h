@@ -1,0 +1,91 @@
+#pragma once
+
+#include "ZemSlideSink.h"
+
+#include <string>
+#include <vector>
+
+namespace slidetest {
+
+// Builds slide bytes by hand: a header of either level, then records with
+// words in the chosen byte order.
+class SlideBuilder {
+public:
+    explicit SlideBuilder(bool highFirst = false) : m_highFirst(highFirst) {}
+
+    SlideBuilder& header(int level, int width, int height)
+    {
+        const std::string id = "AutoCAD Slide\r\n\x1a";
+        m_bytes.assign(id.begin(), id.end());
+        m_bytes.push_back(0);
+        m_bytes.push_back(0x56);
+        m_bytes.push_back(static_cast<unsigned char>(level));
+        word(width).word(height);
+        if (level == 1) {
+            m_bytes.insert(m_bytes.end(), 11, 0);  // aspect as a double, fill flag, filler
+        } else {
+            m_bytes.insert(m_bytes.end(), {0x80, 0x96, 0x98, 0x00, 2, 0});  // aspect 1.0, fill flag
+            word(0x1234);
+        }
+        return *this;
+    }
+    SlideBuilder& word(int value)
+    {
+        const auto low = static_cast<unsigned char>(value & 0xFF);
+        const auto high = static_cast<unsigned char>((value >> 8) & 0xFF);
+        m_bytes.push_back(m_highFirst ? high : low);
+        m_bytes.push_back(m_highFirst ? low : high);
+        return *this;
+    }
+    SlideBuilder& byte(int value)
+    {
+        m_bytes.push_back(static_cast<unsigned char>(value & 0xFF));
+        return *this;
+    }
+    SlideBuilder& vector(int x0, int y0, int x1, int y1) { return word(x0).word(y0).word(x1).word(y1); }
+    SlideBuilder& offsetVector(int dx0, int dy0, int dx1, int dy1)
+    {
+        return word(0xFB00 | (dx0 & 0xFF)).byte(dy0).byte(dx1).byte(dy1);
+    }
+    SlideBuilder& commonEndpoint(int dx, int dy) { return word(0xFE00 | (dx & 0xFF)).byte(dy); }
+    SlideBuilder& color(int index) { return word(0xFF00 | index); }
+    SlideBuilder& fillRecord(int x, int y) { return word(0xFD00).word(x).word(y); }
+    SlideBuilder& end() { return word(0xFC00); }
+
+    const std::vector<unsigned char>& bytes() const { return m_bytes; }
+
+private:
+    bool m_highFirst;
+    std::vector<unsigned char> m_bytes;
+};
+
+// Keeps everything a decoding reports, in order.
+class RecordingSink : public CZemSlideSink {
+public:
+    struct Line {
+        int x0, y0, x1, y1;
+        bool operator==(const Line& o) const { return x0 == o.x0 && y0 == o.y0 && x1 == o.x1 && y1 == o.y1; }
+    };
+
+    void slideSize(int w, int h) override
+    {
+        width = w;
+        height = h;
+    }
+    void newColor(int color) override { colors.push_back(color); }
+    void line(int x0, int y0, int x1, int y1) override { lines.push_back({x0, y0, x1, y1}); }
+    void polygon(std::vector<Point>& points) override
+    {
+        polygons.emplace_back();
+        for (const Point& p : points)
+            polygons.back().push_back({p.x, p.y});
+    }
+
+    int width = -1;
+    int height = -1;
+    std::vector<int> colors;
+    std::vector<Line> lines;
+    std::vector<std::vector<std::pair<int, int>>> polygons;
+};
+
+}  // namespace slidetest

@@ -1,0 +1,98 @@
+#include "SlideTestSupport.h"
+#include "ZemSlideData.h"
+
+#include <gtest/gtest.h>
+
+using slidetest::SlideBuilder;
+
+namespace {
+
+CZemSlideData held(const std::vector<unsigned char>& bytes)
+{
+    CZemSlideData data;
+    data.assign(bytes.data(), static_cast<long>(bytes.size()));
+    return data;
+}
+
+}  // namespace
+
+TEST(ZemSlideData, ReadsStopAtTheEndOfTheData)
+{
+    const std::vector<unsigned char> bytes = {0x34, 0x12, 0xAB};
+    CZemSlideData data = held(bytes);
+    EXPECT_EQ(data.getUInt16(), 0x1234);
+    EXPECT_EQ(data.getUInt16(), CZemSlideData::kEndOfData) << "one byte left is no word";
+    unsigned char block[2] = {7, 7};
+    EXPECT_EQ(data.getBlk(block, 2), -1);
+    EXPECT_EQ(block[0], 7) << "a block that doesn't fit is not copied";
+    EXPECT_EQ(data.getByte(), 0xAB);
+    EXPECT_EQ(data.getByte(), 0);
+    EXPECT_EQ(data.pos(), 3u);
+    EXPECT_EQ(data.getBlk(block, 0), 0);
+}
+
+TEST(ZemSlideData, NullBytesKeepTheCountButHoldNoSlide)
+{
+    CZemSlideData data;
+    EXPECT_FALSE(data.assign(nullptr, 40));
+    EXPECT_FALSE(data.hasSlide());
+    EXPECT_EQ(data.size(), 40u);
+    EXPECT_EQ(data.getUInt16(), CZemSlideData::kEndOfData);
+    EXPECT_FALSE(data.assign("x", -1));
+    EXPECT_EQ(data.size(), 0u);
+}
+
+TEST(ZemSlideData, TheTestNumberSetsTheByteOrder)
+{
+    // Low byte first: width and words as written.
+    CZemSlideData low = held(SlideBuilder(false).header(2, 0x0102, 0x0304).word(0xFF05).bytes());
+    ASSERT_TRUE(low.readHeader());
+    EXPECT_EQ(low.testNo(), 0x1234);
+    EXPECT_EQ(low.width(), 0x0102);
+    EXPECT_EQ(low.height(), 0x0304);
+    EXPECT_EQ(low.pos(), 31u);
+    EXPECT_EQ(low.getUInt16(), 0xFF05);
+
+    // A writer that stores high byte first reads back as 0x3412.
+    CZemSlideData high = held(SlideBuilder(true).header(2, 0x0102, 0x0304).word(0xFF05).bytes());
+    ASSERT_TRUE(high.readHeader());
+    EXPECT_EQ(high.testNo(), 0x3412);
+    EXPECT_EQ(high.width(), 0x0102);
+    EXPECT_EQ(high.height(), 0x0304);
+    EXPECT_EQ(high.getUInt16(), 0xFF05);
+
+    // Any other test number: sizes high byte first, records low byte first.
+    std::vector<unsigned char> odd = SlideBuilder(false).header(2, 0x0102, 0x0304).word(0xFF05).bytes();
+    odd[29] = 0x78;
+    odd[30] = 0x56;
+    CZemSlideData other = held(odd);
+    ASSERT_TRUE(other.readHeader());
+    EXPECT_EQ(other.width(), 0x0201);
+    EXPECT_EQ(other.height(), 0x0403);
+    EXPECT_EQ(other.getUInt16(), 0xFF05);
+}
+
+TEST(ZemSlideData, HeaderLevels)
+{
+    CZemSlideData old = held(SlideBuilder(false).header(1, 640, 480).word(0xFF01).bytes());
+    ASSERT_TRUE(old.readHeader());
+    EXPECT_EQ(old.pos(), 34u) << "a level-1 header is 34 bytes";
+    EXPECT_EQ(old.width(), 640);
+    EXPECT_EQ(old.height(), 480);
+    EXPECT_EQ(old.getUInt16(), 0xFF01) << "level 1 reads low byte first";
+
+    std::vector<unsigned char> bytes = SlideBuilder(false).header(2, 10, 10).end().bytes();
+    for (int level : {0, 3, 255}) {
+        bytes[18] = static_cast<unsigned char>(level);
+        EXPECT_FALSE(held(bytes).readHeader()) << "level " << level;
+    }
+    EXPECT_FALSE(held(std::vector<unsigned char>(bytes.begin(), bytes.begin() + 22)).readHeader())
+        << "shorter than the common header part";
+
+    // A header cut after the level leaves no records to read.
+    bytes[18] = 2;
+    CZemSlideData cut = held(std::vector<unsigned char>(bytes.begin(), bytes.begin() + 27));
+    ASSERT_TRUE(cut.readHeader());
+    EXPECT_EQ(cut.width(), 10);
+    EXPECT_EQ(cut.getUInt16(), CZemSlideData::kEndOfData);
+}
