@@ -140,9 +140,10 @@ std::wstring portableFormat(const wchar_t* fmt) {
     return out;
 }
 
-// The wide print functions only say that a buffer was too small, not how much
-// is needed; the buffer doubles up to a limit, beyond which the format itself
-// is what gets reported.
+// The wide print functions do not tell how much room a text needs, and on
+// some runtimes a cut text looks like success; only a text that leaves the
+// last place of the buffer free is known to be whole. The buffer doubles up to
+// a limit, beyond which the format itself is what gets reported.
 std::wstring formatText(const wchar_t* fmt, va_list args) {
     const std::wstring portable = portableFormat(fmt);
     constexpr std::size_t kLimit = std::size_t(1) << 22;
@@ -152,7 +153,7 @@ std::wstring formatText(const wchar_t* fmt, va_list args) {
         va_copy(copy, args);
         const int written = std::vswprintf(buffer.data(), size, portable.c_str(), copy);
         va_end(copy);
-        if (written >= 0) return std::wstring(buffer.data(), static_cast<std::size_t>(written));
+        if (written >= 0 && static_cast<std::size_t>(written) + 1 < size) return std::wstring(buffer.data(), static_cast<std::size_t>(written));
     }
     return fmt;
 }
