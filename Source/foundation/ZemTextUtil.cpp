@@ -215,7 +215,10 @@ bool strTok(const wchar_t* text, const wchar_t* separators, CZemArrayTempl<CZemS
     for (std::size_t pos = 0;; ++pos) {
         const bool end = text[pos] == L'\0';
         if (!end && !(separators && std::wcschr(separators, text[pos]))) continue;
-        if (keepEmpty || pos > start) out.append(CZemString(std::wstring(text + start, pos - start).c_str()));
+        if (keepEmpty || pos > start) {
+            const std::wstring token(text + start, pos - start);
+            out.append(CZemString(token.c_str()));
+        }
         if (end) break;
         start = pos + 1;
     }
