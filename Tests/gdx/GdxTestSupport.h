@@ -1,0 +1,76 @@
+#pragma once
+
+#include "ZemGDX.h"
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+
+// Small builders for display list tests.
+namespace gdxtest {
+
+inline CZemArrayTempl<int> path(std::initializer_list<int> elements) {
+    CZemArrayTempl<int> stack;
+    for (int e : elements) stack.append(e);
+    return stack;
+}
+
+inline CZemVertexArray segment(const CZemPoint3d& a, const CZemPoint3d& b) {
+    return CZemVertexArray(CZemVertex(a, b, 0.0));
+}
+
+// A closed straight polygon through the corners.
+inline CZemVertexArray polygon(std::initializer_list<CZemPoint3d> corners) {
+    CZemVertexArray vl;
+    const CZemPoint3d* p = corners.begin();
+    const int n = static_cast<int>(corners.size());
+    for (int k = 0; k < n; ++k) vl.append(CZemVertex(p[k], p[(k + 1) % n], 0.0));
+    return vl;
+}
+
+inline CZemVertexArray square(double x0, double y0, double x1, double y1) {
+    return polygon({{x0, y0, 0}, {x1, y0, 0}, {x1, y1, 0}, {x0, y1, 0}});
+}
+
+inline CZemColor indexColor(int index) { return CZemColor().setColorIndex(index); }
+
+// A list that reads no configuration: identity projection, no view extents.
+inline CZemGDX newList(const CZemMatrix3d& proj = CZemMatrix3d()) {
+    return CZemGDX(indexColor(7), proj, 2.0, 3, CZemPoint3d(), CZemPoint3d());
+}
+
+inline void addLine(CZemGDX& g, const CZemArrayTempl<int>& stack, const CZemPoint3d& a, const CZemPoint3d& b,
+                    unsigned long flags = 0, const CZemMatrix3d& mtx = CZemMatrix3d()) {
+    g.imageVl(stack, flags, segment(a, b), indexColor(1), mtx, CZemArrayTempl<double>(), 1.0, 1);
+}
+
+inline void addPoint(CZemGDX& g, const CZemArrayTempl<int>& stack, const CZemPoint3d& p, unsigned long flags = 0,
+                     const CZemMatrix3d& mtx = CZemMatrix3d()) {
+    g.imagePt(stack, flags, p, indexColor(2), mtx, 0.0, 0xFFFFFFFFUL);
+}
+
+inline void addRegion(CZemGDX& g, const CZemArrayTempl<int>& stack, const CZemArrayTempl<CZemVertexArray>& regl,
+                      unsigned long flags = 0, const CZemMatrix3d& mtx = CZemMatrix3d()) {
+    g.imageReg(stack, flags, regl, indexColor(3), mtx, CZemArrayTempl<double>(), 1.0, 1, indexColor(4));
+}
+
+inline CZemArrayTempl<CZemVertexArray> region(std::initializer_list<CZemVertexArray> contours) {
+    CZemArrayTempl<CZemVertexArray> regl;
+    for (const CZemVertexArray& c : contours) regl.append(c);
+    return regl;
+}
+
+inline void expectPoint(const CZemPoint3d& actual, double x, double y, double z, double tolerance = 1e-9) {
+    EXPECT_NEAR(actual.x, x, tolerance);
+    EXPECT_NEAR(actual.y, y, tolerance);
+    EXPECT_NEAR(actual.z, z, tolerance);
+}
+
+inline void expectExtents(const CZemGDX& g, const CZemPoint3d& lo, const CZemPoint3d& hi) {
+    CZemPoint3d min, max;
+    g.extmaxGet(min, max);
+    expectPoint(min, lo.x, lo.y, lo.z);
+    expectPoint(max, hi.x, hi.y, hi.z);
+}
+
+}  // namespace gdxtest
