@@ -1,0 +1,96 @@
+#include "ZemVertexArray.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace {
+
+CZemVertexArray circle(double cx, double cy, double r) {
+    CZemVertexArray vl;
+    vl.append(CZemVertex(CZemPoint3d(cx + r, cy, 0), CZemPoint3d(cx - r, cy, 0), 1.0));
+    vl.append(CZemVertex(CZemPoint3d(cx - r, cy, 0), CZemPoint3d(cx + r, cy, 0), 1.0));
+    return vl;
+}
+
+CZemVertexArray polygon(std::initializer_list<CZemPoint3d> corners) {
+    CZemPoint3dArray p;
+    for (const CZemPoint3d& c : corners) p.append(c);
+    return CZemVertexArray().fromPoints(p, true);
+}
+
+CZemVertexArray line(double x0, double y0, double x1, double y1) {
+    return CZemVertexArray(CZemVertex(CZemPoint3d(x0, y0, 0), CZemPoint3d(x1, y1, 0), 0.0));
+}
+
+void expectPoints(const CZemPoint3dArray& got, std::initializer_list<CZemPoint3d> want) {
+    ASSERT_EQ(got.len(), static_cast<int>(want.size()));
+    int k = 0;
+    for (const CZemPoint3d& p : want) {
+        EXPECT_NEAR(got[k].x, p.x, 1e-9) << "point " << k;
+        EXPECT_NEAR(got[k].y, p.y, 1e-9) << "point " << k;
+        ++k;
+    }
+}
+
+}  // namespace
+
+TEST(Intersect, LineAgainstACircleOfTwoArcs) {
+    const CZemVertexArray c = circle(0, 0, 5);
+    for (const unsigned mode : {0u, 3u}) {
+        expectPoints(line(-10, 3, 10, 3).intersectWith(c, mode), {{-4, 3, 0}, {4, 3, 0}});
+        expectPoints(line(10, -3, -10, -3).intersectWith(c, mode), {{4, -3, 0}, {-4, -3, 0}});
+        // Through the two joints of the arcs: each counts once.
+        expectPoints(line(-10, 0, 10, 0).intersectWith(c, mode), {{-5, 0, 0}, {5, 0, 0}});
+        expectPoints(line(0, -9, 0, 9).intersectWith(c, mode), {{0, -5, 0}, {0, 5, 0}});
+        expectPoints(line(0, 0, 0, 9).intersectWith(c, mode), {{0, 5, 0}});
+    }
+    // A tangent touches: a meeting point, but no crossing.
+    expectPoints(line(-10, 5, 10, 5).intersectWith(c, 0), {{0, 5, 0}});
+    EXPECT_EQ(line(-10, 5, 10, 5).intersectWith(c, 3).len(), 0);
+    EXPECT_EQ(line(-10, -5, 10, -5).intersectWith(c, 3).len(), 0);
+    EXPECT_EQ(line(-10, 6, 10, 6).intersectWith(c, 0).len(), 0);
+    CZemPoint3dArray out;
+    out.append(CZemPoint3d(1, 1, 1));
+    EXPECT_FALSE(line(-10, 6, 10, 6).intersectWith(out, c, 3));
+    EXPECT_EQ(out.len(), 0) << "the output is replaced";
+    // Two circles meet at (3, +-4).
+    expectPoints(circle(0, 0, 5).intersectWith(circle(6, 0, 5), 0), {{3, 4, 0}, {3, -4, 0}});
+}
+
+TEST(Intersect, LinesThroughCornersAndAlongEdges) {
+    const CZemVertexArray diamond = polygon({{2, 0, 0}, {4, 2, 0}, {2, 4, 0}, {0, 2, 0}});
+    expectPoints(line(-1, 2, 5, 2).intersectWith(diamond, 3), {{0, 2, 0}, {4, 2, 0}});
+    EXPECT_EQ(line(-1, 4, 5, 4).intersectWith(diamond, 3).len(), 0) << "touching the top corner";
+    EXPECT_EQ(line(-1, 0, 5, 0).intersectWith(diamond, 3).len(), 0) << "touching the bottom corner";
+    expectPoints(line(-1, 4, 5, 4).intersectWith(diamond, 0), {{2, 4, 0}});
+
+    const CZemVertexArray square = polygon({{0, 0, 0}, {4, 0, 0}, {4, 4, 0}, {0, 4, 0}});
+    // Along an edge: the square lies on the left of the bottom edge run to
+    // +x, so nothing crosses; on the right of the top edge, so both ends.
+    EXPECT_EQ(line(-1, 0, 5, 0).intersectWith(square, 3).len(), 0);
+    expectPoints(line(-1, 4, 5, 4).intersectWith(square, 3), {{0, 4, 0}, {4, 4, 0}});
+    expectPoints(line(-1, 0, 5, 0).intersectWith(square, 0), {{0, 0, 0}, {4, 0, 0}});
+    // A step whose middle edge lies on the line is crossed once.
+    const CZemVertexArray step = polygon({{0, 0, 0}, {6, 0, 0}, {6, 4, 0}, {4, 4, 0}, {4, 2, 0}, {2, 2, 0}, {2, 4, 0}, {0, 4, 0}});
+    const CZemVertexArray stair = polygon({{0, 0, 0}, {6, 0, 0}, {6, 2, 0}, {3, 2, 0}, {3, 4, 0}, {0, 4, 0}});
+    EXPECT_EQ(line(-1, 2, 7, 2).intersectWith(stair, 3).len() % 2, 0);
+    EXPECT_EQ(line(-1, 2, 7, 2).intersectWith(step, 3).len() % 2, 0);
+    expectPoints(line(-1, 3, 7, 3).intersectWith(step, 3), {{0, 3, 0}, {2, 3, 0}, {4, 3, 0}, {6, 3, 0}});
+    // Lines that share a stretch meet at its two ends.
+    expectPoints(line(0, 0, 4, 0).intersectWith(line(2, 0, 6, 0), 0), {{2, 0, 0}, {4, 0, 0}});
+}
+
+TEST(Intersect, BadInputGivesNoPoints) {
+    const CZemVertexArray c = circle(0, 0, 5);
+    EXPECT_EQ(line(0, 0, 0, 0).intersectWith(c, 3).len(), 0);
+    EXPECT_EQ(line(0, 5, 0, 5).intersectWith(c, 3).len(), 1) << "a point on the contour meets it";
+    EXPECT_EQ(line(std::nan(""), 0, 10, 0).intersectWith(c, 3).len(), 0);
+    EXPECT_EQ(line(-10, 0, INFINITY, 0).intersectWith(c, 0).len(), 0);
+    EXPECT_EQ(CZemVertexArray().intersectWith(c, 0).len(), 0);
+    EXPECT_EQ(line(-10, 0, 10, 0).intersectWith(CZemVertexArray(), 3).len(), 0);
+    CZemVertexArray zeros;
+    for (int k = 0; k < 3; ++k) zeros.append(CZemVertex(CZemPoint3d(1, 0, 0), CZemPoint3d(1, 0, 0), 0.5));
+    EXPECT_EQ(line(-10, 0, 10, 0).intersectWith(zeros, 3).len(), 0);
+    EXPECT_EQ(line(-10, 0, 10, 0).intersectWith(zeros, 0).len(), 1);
+}
