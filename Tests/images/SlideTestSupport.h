@@ -2,46 +2,38 @@
 
 #include "ZemSlideSink.h"
 
+#include <array>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace slidetest {
 
-// Builds slide bytes by hand: a header of either level, then records with
-// words in the chosen byte order.
+// Slide bytes by hand: a header of either level, then records with words in
+// the chosen byte order.
 class SlideBuilder {
 public:
     explicit SlideBuilder(bool highFirst = false) : m_highFirst(highFirst) {}
 
     SlideBuilder& header(int level, int width, int height)
     {
-        const std::string id = "AutoCAD Slide\r\n\x1a";
+        const std::string id = std::string("AutoCAD Slide\r\n\x1a", 16) + '\0' + "\x56" + char(level);
         m_bytes.assign(id.begin(), id.end());
-        m_bytes.push_back(0);
-        m_bytes.push_back(0x56);
-        m_bytes.push_back(static_cast<unsigned char>(level));
         word(width).word(height);
-        if (level == 1) {
+        if (level == 1)
             m_bytes.insert(m_bytes.end(), 11, 0);  // aspect as a double, fill flag, filler
-        } else {
+        else
             m_bytes.insert(m_bytes.end(), {0x80, 0x96, 0x98, 0x00, 2, 0});  // aspect 1.0, fill flag
-            word(0x1234);
-        }
-        return *this;
+        return level == 1 ? *this : word(0x1234);
     }
     SlideBuilder& word(int value)
     {
         const auto low = static_cast<unsigned char>(value & 0xFF);
         const auto high = static_cast<unsigned char>((value >> 8) & 0xFF);
-        m_bytes.push_back(m_highFirst ? high : low);
-        m_bytes.push_back(m_highFirst ? low : high);
+        m_bytes.insert(m_bytes.end(), {m_highFirst ? high : low, m_highFirst ? low : high});
         return *this;
     }
-    SlideBuilder& byte(int value)
-    {
-        m_bytes.push_back(static_cast<unsigned char>(value & 0xFF));
-        return *this;
-    }
+    SlideBuilder& byte(int value) { return m_bytes.push_back(static_cast<unsigned char>(value & 0xFF)), *this; }
     SlideBuilder& vector(int x0, int y0, int x1, int y1) { return word(x0).word(y0).word(x1).word(y1); }
     SlideBuilder& offsetVector(int dx0, int dy0, int dx1, int dy1)
     {
@@ -62,30 +54,24 @@ private:
 // Keeps everything a decoding reports, in order.
 class RecordingSink : public CZemSlideSink {
 public:
-    struct Line {
-        int x0, y0, x1, y1;
-        bool operator==(const Line& o) const { return x0 == o.x0 && y0 == o.y0 && x1 == o.x1 && y1 == o.y1; }
-    };
+    using Line = std::array<int, 4>;
+    using Polygon = std::vector<std::pair<int, int>>;
 
-    void slideSize(int w, int h) override
-    {
-        width = w;
-        height = h;
-    }
+    void slideSize(int w, int h) override { width = w, height = h; }
     void newColor(int color) override { colors.push_back(color); }
     void line(int x0, int y0, int x1, int y1) override { lines.push_back({x0, y0, x1, y1}); }
     void polygon(std::vector<Point>& points) override
     {
         polygons.emplace_back();
         for (const Point& p : points)
-            polygons.back().push_back({p.x, p.y});
+            polygons.back().emplace_back(p.x, p.y);
     }
 
     int width = -1;
     int height = -1;
     std::vector<int> colors;
     std::vector<Line> lines;
-    std::vector<std::vector<std::pair<int, int>>> polygons;
+    std::vector<Polygon> polygons;
 };
 
 }  // namespace slidetest

@@ -17,7 +17,7 @@ struct Slide {
 };
 
 // A library of the given slides; terminated says whether the directory ends
-// with an empty entry. Offsets are patched by the caller through shift.
+// with an empty entry; shift moves every stored offset.
 std::string library(const std::vector<Slide>& slides, bool terminated = true, long shift = 0)
 {
     std::string out = "AutoCAD Slide Library 1.0\r\n\x1a";
@@ -61,11 +61,6 @@ TEST(ZemSlideLibrary, FindsSlidesByNameInAnyCase)
     EXPECT_FALSE(data.loadFromLibrary(in, ""));
     EXPECT_FALSE(data.loadFromLibrary(in, nullptr));
     EXPECT_FALSE(data.loadFromLibrary(in, std::string(32, 'D').c_str())) << "names have fewer than 32 bytes";
-
-    const std::vector<CZemSlideLibrary::Entry> entries = CZemSlideLibrary::directory(in);
-    ASSERT_EQ(entries.size(), 2u);
-    EXPECT_EQ(entries[1].name, "Window_2");
-    EXPECT_EQ(entries[0].offset + entries[0].length, entries[1].offset);
 }
 
 TEST(ZemSlideLibrary, DamagedDirectoriesGiveDefinedResults)

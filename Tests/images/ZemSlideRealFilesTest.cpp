@@ -60,8 +60,8 @@ Totals decodeWhole(CZemSlideData& data, const std::string& what)
     EXPECT_EQ(data.pos(), data.size()) << what << " ends at its end record";
     auto check = [&](int x, int y) { totals.outside += x < 0 || y < 0 || x > sink.width || y > sink.height; };
     for (const RecordingSink::Line& line : sink.lines) {
-        check(line.x0, line.y0);
-        check(line.x1, line.y1);
+        check(line[0], line[1]);
+        check(line[2], line[3]);
     }
     for (const auto& polygon : sink.polygons) {
         totals.fillRecords += static_cast<int>(polygon.size()) + 1;
