@@ -11,6 +11,8 @@ constexpr double kRight = 0.844746;
 constexpr double kXL = kLeft + kHalf;
 constexpr double kXR = kRight - kHalf;
 constexpr double kXM = (kLeft + kRight) / 2;
+// Horizontal radius of the centre line of a full-width round letter.
+constexpr double kRx = (kXR - kXL) / 2;
 
 constexpr double kCap = 1.0;
 constexpr double kYT = kCap - kHalf;

@@ -24,6 +24,12 @@ ZemSkPoint zem_font_beyond(const ZemSkPoint& a, const ZemSkPoint& b, double d) {
     return {b.x + (b.x - a.x) / len * d, b.y + (b.y - a.y) / len * d};
 }
 
+void zem_font_s_curve(CZemGlyphSketch& s, double yLow, double yMid, double yTop) {
+    const double ryu = (yTop - yMid) / 2;
+    const double ryl = (yMid - yLow) / 2;
+    s.start().arc(kXM, yMid + ryu, kRx - 0.03, ryu, 35, 270).arc(kXM, yLow + ryl, kRx, ryl, 90, -145);
+}
+
 void zem_font_umlaut(CZemGlyphSketch& s, double yLow, double yHigh) {
     const double gap = 0.17;
     s.part().seg(kXM - gap, yLow, kXM - gap, yHigh);

@@ -23,5 +23,10 @@ double zem_font_slant_x(double edgeX, double y, double tx, double ty, int side);
 // reaches past a clip edge.
 ZemSkPoint zem_font_beyond(const ZemSkPoint& a, const ZemSkPoint& b, double d);
 
-// Two short bars above a letter of the given centre, as the marks of an umlaut.
+// The centre line of an S from yLow to yTop: a narrower upper bowl turning
+// into a full-width lower one at yMid.
+void zem_font_s_curve(CZemGlyphSketch& s, double yLow, double yMid, double yTop);
+
+// Two short upright bars from yLow to yHigh either side of the middle of a
+// full-width letter, as the marks of an umlaut; each is a region of its own.
 void zem_font_umlaut(CZemGlyphSketch& s, double yLow, double yHigh);

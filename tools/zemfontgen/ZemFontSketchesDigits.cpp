@@ -3,8 +3,6 @@
 
 namespace {
 
-constexpr double kRx = (kXR - kXL) / 2;
-constexpr double kRoundMid = (kRB + kRT) / 2;
 
 void drawZero(CZemGlyphSketch& s) {
     const double ry = 0.3;

@@ -3,7 +3,6 @@
 
 namespace {
 
-constexpr double kRx = (kXR - kXL) / 2;
 constexpr double kMidX = (kRB + kYX) / 2;
 constexpr double kRyX = (kYX - kRB) / 2;
 constexpr double kLowDots[2] = {1.0 - kDot, 1.0};
@@ -131,10 +130,8 @@ void drawR(CZemGlyphSketch& s) {
 }
 
 void drawS(CZemGlyphSketch& s) {
-    const double yMid = 0.35;
-    const double ryu = (kYX - yMid) / 2;
-    const double ryl = (yMid - kRB) / 2;
-    s.part().start().arc(kXM, yMid + ryu, kRx - 0.03, ryu, 35, 270).arc(kXM, kRB + ryl, kRx, ryl, 90, -145);
+    s.part();
+    zem_font_s_curve(s, kRB, 0.35, kYX);
 }
 
 void drawT(CZemGlyphSketch& s) {

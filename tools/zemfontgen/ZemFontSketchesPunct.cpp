@@ -6,7 +6,6 @@
 namespace {
 
 constexpr double kPi = 3.14159265358979323846;
-constexpr double kRx = (kXR - kXL) / 2;
 constexpr double kTickLow = 0.72;
 constexpr double kBracketLow = -0.1;
 constexpr double kX1 = kXL + 0.2;
@@ -40,13 +39,8 @@ void drawHash(CZemGlyphSketch& s) {
 }
 
 void drawDollar(CZemGlyphSketch& s) {
-    const double low = 0.11;
-    const double mid = 0.5;
-    const double top = 0.89;
-    const double ryu = (top - mid) / 2;
-    const double ryl = (mid - low) / 2;
     s.part().seg(kXM, 0, kXM, kCap);
-    s.start().arc(kXM, mid + ryu, kRx - 0.03, ryu, 35, 270).arc(kXM, low + ryl, kRx, ryl, 90, -145);
+    zem_font_s_curve(s, 0.11, 0.5, 0.89);
 }
 
 void drawPercent(CZemGlyphSketch& s) {

@@ -3,7 +3,6 @@
 
 namespace {
 
-constexpr double kRx = (kXR - kXL) / 2;
 constexpr double kRoundMid = (kRB + kRT) / 2;
 constexpr double kRoundRy = (kRT - kRB) / 2;
 constexpr double kCapDots[2] = {1.1, 1.2};
@@ -124,16 +123,9 @@ void drawR(CZemGlyphSketch& s) {
     s.seg(0.5, ym, end.x, end.y).clip(kLeft, 0, kRight, kCap);
 }
 
-// An S of two bowls that meet at yMid: a narrower upper one, a full lower one.
-void sShape(CZemGlyphSketch& s, double yLow, double yMid, double yTop) {
-    const double ryu = (yTop - yMid) / 2;
-    const double ryl = (yMid - yLow) / 2;
-    s.start().arc(kXM, yMid + ryu, kRx - 0.03, ryu, 35, 270).arc(kXM, yLow + ryl, kRx, ryl, 90, -145);
-}
-
 void drawS(CZemGlyphSketch& s) {
     s.part();
-    sShape(s, kRB, 0.53, kRT);
+    zem_font_s_curve(s, kRB, 0.53, kRT);
 }
 
 void drawT(CZemGlyphSketch& s) { s.part().seg(kLeft, kYT, kRight, kYT).seg(kXM, kYT, kXM, 0); }
