@@ -1,8 +1,10 @@
+#include "ZemClip.h"
 #include "ZemVertexArray.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <random>
 
 namespace {
 
@@ -93,4 +95,33 @@ TEST(Intersect, BadInputGivesNoPoints) {
     for (int k = 0; k < 3; ++k) zeros.append(CZemVertex(CZemPoint3d(1, 0, 0), CZemPoint3d(1, 0, 0), 0.5));
     EXPECT_EQ(line(-10, 0, 10, 0).intersectWith(zeros, 3).len(), 0);
     EXPECT_EQ(line(-10, 0, 10, 0).intersectWith(zeros, 0).len(), 1);
+}
+
+TEST(Intersect, CrossingsAlternateBetweenOutsideAndInside) {
+    CZemVertexArray blob;
+    const CZemPoint3d corners[] = {{0, 0, 0}, {8, 1, 0}, {9, 7, 0}, {4, 5, 0}, {4, 3, 0}, {1, 8, 0}};
+    const double bulges[] = {0.6, -0.4, 2.5, 0.0, 0.0, -0.9};
+    for (int k = 0; k < 6; ++k) blob.append(CZemVertex(corners[k], corners[(k + 1) % 6], bulges[k]));
+    std::mt19937 rng(3);
+    std::uniform_real_distribution<double> angle(0, 6.283185307179586), offset(-6, 6);
+    int crossed = 0;
+    for (int k = 0; k < 400; ++k) {
+        // Lines through the corners and tangent to nothing in particular, and
+        // lines at random, all reaching well outside the contour.
+        const double a = angle(rng);
+        const CZemPoint3d through = k % 4 == 0 ? corners[k / 4 % 6] : CZemPoint3d(4 + offset(rng), 4 + offset(rng), 0);
+        const CZemVertexArray l = line(through.x - 30 * std::cos(a), through.y - 30 * std::sin(a),
+                                       through.x + 30 * std::cos(a), through.y + 30 * std::sin(a));
+        const CZemPoint3dArray p = l.intersectWith(blob, 3);
+        ASSERT_EQ(p.len() % 2, 0) << k;
+        crossed += p.len() > 0;
+        for (int i = 0; i + 1 < p.len(); ++i) {
+            EXPECT_LT((p[i] - l[0].m_start).abs(), (p[i + 1] - l[0].m_start).abs()) << "in order along the line";
+            const CZemPoint3d m((p[i].x + p[i + 1].x) / 2, (p[i].y + p[i + 1].y) / 2, 0);
+            if (p[i].distanceTo(p[i + 1]) > 1e-6) {
+                EXPECT_EQ(ZEM::g_vl_pt_inside(blob, m, false), i % 2 == 0) << k;
+            }
+        }
+    }
+    EXPECT_GT(crossed, 200);
 }
