@@ -6,6 +6,7 @@
 #include <fstream>
 #include <istream>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -49,16 +50,18 @@ bool CZemSlideData::take(std::vector<unsigned char>&& bytes)
 
 bool CZemSlideData::assign(const void* data, long size)
 {
-    clear();
-    if (size < 0 || static_cast<unsigned long>(size) > kMaxSize)
-        return false;
-    if (!data) {
-        // No bytes, but the count stands; the reads see an empty buffer.
-        m_size = static_cast<std::uint32_t>(size);
+    const bool fits = size >= 0 && static_cast<unsigned long>(size) <= kMaxSize;
+    if (!fits || !data) {
+        clear();
+        // Null data holds no bytes, but the count stands; the reads see an empty buffer.
+        if (fits)
+            m_size = static_cast<std::uint32_t>(size);
         return false;
     }
+    // Copied before the old bytes go, so data may point into them.
     const auto* first = static_cast<const unsigned char*>(data);
     std::vector<unsigned char> bytes(first, first + size);
+    clear();
     m_data = std::move(bytes);
     m_size = static_cast<std::uint32_t>(size);
     m_held = true;

@@ -29,6 +29,8 @@ TEST(ZemSlideData, ReadsStopAtTheEndOfTheData)
     EXPECT_EQ(data.getByte(), 0);
     EXPECT_EQ(data.pos(), 3u);
     EXPECT_EQ(data.getBlk(block, 0), 0);
+    ASSERT_TRUE(data.assign(data.bytes() + 1, 2)) << "its own bytes";
+    EXPECT_EQ(data.getUInt16(), 0xAB12);
 
     // No bytes: the count stands, but nothing is held and nothing is read.
     EXPECT_FALSE(data.assign(nullptr, 40));
