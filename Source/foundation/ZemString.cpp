@@ -1,5 +1,7 @@
 #include "ZemString.h"
 
+#include "ZemTextUtil.h"
+
 #include <cstdarg>
 #include <cstdio>
 #include <cwchar>
@@ -129,19 +131,11 @@ CZemString operator+(const wchar_t* left, const CZemString& right) {
 }
 
 CZemString& CZemString::format(const wchar_t* fmt, ...) {
-    std::size_t size = 256;
-    for (;;) {
-        std::wstring buffer(size, L'\0');
-        va_list args;
-        va_start(args, fmt);
-        const int written = std::vswprintf(&buffer[0], size, orEmpty(fmt), args);
-        va_end(args);
-        if (written >= 0) return *this = buffer.c_str();
-        // A negative result means the buffer was short, or a bad format:
-        // give up at a size no sensible text reaches.
-        if (size >= (1u << 20)) return *this = kEmpty;
-        size *= 4;
-    }
+    va_list args;
+    va_start(args, fmt);
+    const std::wstring text = ZEM::formatText(fmt, args);
+    va_end(args);
+    return *this = text.c_str();
 }
 
 CZemString& CZemString::replace(wchar_t from, wchar_t to) {

@@ -40,7 +40,7 @@ public:
     CZemString& operator+=(const CZemString& other);
     CZemString& operator+=(const wchar_t* text);
 
-    // Formats like swprintf; wide string arguments are passed as %ls.
+    // Formats like swprintf; %s and %c take wide arguments on every platform.
     CZemString& format(const wchar_t* fmt, ...);
 
     CZemString& replace(wchar_t from, wchar_t to);

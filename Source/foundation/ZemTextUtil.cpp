@@ -140,11 +140,16 @@ std::wstring portableFormat(const wchar_t* fmt) {
     return out;
 }
 
+}  // namespace
+
+namespace ZEM {
+
 // The wide print functions do not tell how much room a text needs, and on
 // some runtimes a cut text looks like success; only a text that leaves the
 // last place of the buffer free is known to be whole. The buffer doubles up to
 // a limit, beyond which the format itself is what gets reported.
 std::wstring formatText(const wchar_t* fmt, va_list args) {
+    if (!fmt) return std::wstring();
     const std::wstring portable = portableFormat(fmt);
     constexpr std::size_t kLimit = std::size_t(1) << 22;
     for (std::size_t size = 256; size <= kLimit; size *= 2) {
@@ -158,9 +163,6 @@ std::wstring formatText(const wchar_t* fmt, va_list args) {
     return fmt;
 }
 
-}  // namespace
-
-namespace ZEM {
 
 int atoi(const wchar_t* text) {
     if (!text) return 0;

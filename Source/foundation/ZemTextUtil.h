@@ -3,7 +3,9 @@
 #include "ZemArrayTempl.h"
 #include "ZemString.h"
 
+#include <cstdarg>
 #include <cstddef>
+#include <string>
 
 namespace ZEM {
 
@@ -27,6 +29,10 @@ std::size_t scanReal(const wchar_t* text, double& value);
 // token, and the same text gives "a", "", "b", "". Null separators keep the
 // text whole. False, with out empty, for a null text or when no token results.
 bool strTok(const wchar_t* text, const wchar_t* separators, CZemArrayTempl<CZemString>& out, bool keepEmpty);
+
+// Formats like vswprintf, where %s and %c (without a length modifier) take
+// wide strings and characters on every platform; the text is never cut.
+std::wstring formatText(const wchar_t* fmt, va_list args);
 
 // Receives each finished text of dump.
 typedef void (*DumpSink)(const wchar_t* text);

@@ -42,7 +42,7 @@ TEST(String, EditingOperations) {
     EXPECT_TRUE(CZemString(s).downcase() == L"parm3\\label");
     EXPECT_TRUE(CZemString(L"a.b.c").replace(L'.', L',') == L"a,b,c");
     EXPECT_TRUE(CZemString(L"aXXbXX").replace(L"XX", L"XXY") == L"aXXYbXXY");
-    EXPECT_TRUE(CZemString().format(L"%ls-%.2f", L"x", 1.5) == L"x-1.50");
+    EXPECT_TRUE(CZemString().format(L"%s-%.2f", L"x", 1.5) == L"x-1.50");
 
     CZemString t(L"ab");
     t += t;
