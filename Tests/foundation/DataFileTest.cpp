@@ -1,0 +1,229 @@
+#include "DataTestSupport.h"
+#include "ZemDataAccess.h"
+#include "ZemDataDir.h"
+#include "ZemDataFile.h"
+#include "ZemDataFileReader.h"
+#include "ZemDataFileWriter.h"
+#include "ZemResbuf.h"
+
+#include <gtest/gtest.h>
+
+#include <cfloat>
+#include <cmath>
+#include <limits>
+#include <memory>
+
+using namespace ZEM;
+
+namespace {
+
+template <class T>
+void put(CZemDataItem& root, const wchar_t* path, const T& value) {
+    const CZemDataKey key(path);
+    dataItemSet(&root, &key, value);
+}
+
+// A tree with every kind of value and key the format knows.
+CZemDataItem everyKind() {
+    CZemDataItem root(CZemDataItem::typeDir);
+    put(root, L"REAL\\TENTH", 0.1);
+    put(root, L"REAL\\TINY", 4.9406564584124654e-324);
+    put(root, L"REAL\\NEGZERO", -0.0);
+    put(root, L"REAL\\HUGE", DBL_MAX);
+    put(root, L"REAL\\INF", -std::numeric_limits<double>::infinity());
+    put(root, L"REAL\\WHOLE", 3.0);
+    put(root, L"INT\\SHORT", -32768);
+    put(root, L"INT\\LONG", 2147483647);
+    put(root, L"TEXT\\PLAIN", L"Stra\u00DFe \u20AC");
+    put(root, L"TEXT\\HARD", L"\"q\" \\ \n\t\r \u0001 \u007F \u00A0 # ; { } = ( )");
+    put(root, L"TEXT\\EMPTY", L"");
+    put(root, L"POINT", CZemPoint3d(1e-7, -2.5, 1e22));
+    CZemVertexArray vl;
+    vl.append(CZemVertex(CZemPoint3d(0, 0, 0), CZemPoint3d(1, 0, 0), 0.41421356237309503));
+    vl.append(CZemVertex(CZemPoint3d(5, 5, 0), CZemPoint3d(6, 5, 0), -1.0)).setNormal(CZemVector3d(0, 1, 0));
+    put(root, L"VL", vl);
+    CZemArrayTempl<int> ints;
+    put(root, L"INTS", ints.append(0).append(-70000));
+    CZemArrayTempl<CZemString> texts;
+    put(root, L"TEXTS", texts.append(L"a").append(L"\u00E4\\"));
+    CZemPoint3dArray points;
+    put(root, L"EXTVIEW", points.append(CZemPoint3d(0, 0, 0)).append(CZemPoint3d(1, 2, 3)));
+    double m[4][4] = {{1, 0, 0, 5}, {0, 1, 0, 6}, {0, 0, 1, 7}, {0, 0, 0, 1}};
+    put(root, L"MTX", m);
+    root.getDir()->insert(&CZemDataKey().set(L"EMPTYDIR"), new CZemDataItem(CZemDataItem::typeDir), 0);
+    CZemDataKey odd;
+    odd.set(RTSHORT, -5, RTDXF0, L"name key", RTSTR, L"with space", RTSTR, L"12abc", 0);
+    dataItemSet(&root, &odd, L"deep");
+    // A chain of the rarer codes, as applications may store it.
+    CZemDataItem* rare = new CZemDataItem();
+    resbuf* chain = mkResbuf(1.25, RTANG);
+    chain->rbnext = mkResbuf(L"sym", RTDXF0);
+    chain->rbnext->rbnext = rbNew(RTPOINT);
+    chain->rbnext->rbnext->resval.rpoint[0] = 2.0;
+    chain->rbnext->rbnext->rbnext = mkResbuf(0.0, RTDOTE);
+    chain->rbnext->rbnext->rbnext->rbnext = mkResbuf(0.0, RTT);
+    rare->setData(chain, false);
+    root.getDir()->insert(&CZemDataKey().set(L"RARE"), rare, 0);
+    return root;
+}
+
+bool parseText(const std::string& text, std::unique_ptr<CZemDataItem>& root) {
+    CZemDataFileReader reader(L"test.dta");
+    return reader.parse(text, root);
+}
+
+}  // namespace
+
+TEST(DataFile, EveryKindOfValueRoundTripsThroughAFile) {
+    const std::string folder = datatest::freshFolder("DataFileRoundTrip");
+    const std::wstring path = datatest::widen(folder + "/every.dta");
+    const CZemDataItem tree = everyKind();
+    ASSERT_TRUE(CZemDataFile(path.c_str()).save(&tree));
+    std::unique_ptr<CZemDataItem> back;
+    ASSERT_TRUE(CZemDataFile(path.c_str()).load(back));
+    ASSERT_NE(back, nullptr);
+    EXPECT_TRUE(*back == tree) << datatest::readBytes(folder + "/every.dta");
+    double tenth = 0;
+    EXPECT_TRUE(itemGet(back.get(), L"REAL\\TENTH", tenth));
+    EXPECT_EQ(tenth, 0.1);
+    double negZero = 1;
+    itemGet(back.get(), L"REAL\\NEGZERO", negZero);
+    EXPECT_TRUE(std::signbit(negZero));
+
+    std::string again;
+    CZemDataFileWriter writer;
+    ASSERT_TRUE(writer.format(back.get(), again));
+    EXPECT_EQ(again, datatest::readBytes(folder + "/every.dta")) << "writing is deterministic";
+
+    const CZemDataItem value = *tree.get(&CZemDataKey().set(L"VL"));
+    ASSERT_TRUE(CZemDataFile(path.c_str()).save(&value));
+    ASSERT_TRUE(CZemDataFile(path.c_str()).load(back));
+    EXPECT_TRUE(back && !back->isDir() && *back == value) << "a value as root";
+    ASSERT_TRUE(CZemDataFile(path.c_str()).save(nullptr));
+    ASSERT_TRUE(CZemDataFile(path.c_str()).load(back));
+    EXPECT_EQ(back, nullptr) << "a data set without a root";
+}
+
+TEST(DataFile, HandWrittenTextReads) {
+    const std::string text =
+        "\xEF\xBB\xBF# settings\r\n"
+        "ZEMDATA 1 {\r\n"
+        "  KAL_MENU { COLOR { PDSIZE = 5; BACKGROUND = \"255,255,255\"; } }\n"
+        "  \"*WALL_EDIT*\" { BT = 2 ; MODE=\"SHELL\";}  # trailing comment\n"
+        "  -7 = L(-100000) A(.5) P2(1 2) nil T . ( ) 1.5e3 +4 inf;\n"
+        "  N\"sym\" = N\"x\";\n"
+        "  latin = \"Gr\xF6\xDF" "e\";\n"
+        "}\n";
+    std::unique_ptr<CZemDataItem> root;
+    ASSERT_TRUE(parseText(text, root));
+    int size = 0;
+    EXPECT_TRUE(itemGet(root.get(), L"kal_menu\\color\\pdsize", size));
+    EXPECT_EQ(size, 5);
+    CZemString mode;
+    EXPECT_TRUE(itemGet(root.get(), L"*WALL_EDIT*\\MODE", mode) && mode == L"SHELL");
+    CZemString latin;
+    EXPECT_TRUE(itemGet(root.get(), L"latin", latin));
+    EXPECT_TRUE(latin == L"Gr\u00F6\u00DFe") << "bytes that are no UTF-8 read as Latin-1";
+    CZemDataKey number;
+    const CZemDataItem* list = root->get(&number.set(RTSHORT, -7, 0));
+    ASSERT_NE(list, nullptr);
+    std::vector<short> codes;
+    for (const resbuf* p = list->getResbuf(); p; p = p->rbnext) codes.push_back(p->restype);
+    EXPECT_EQ(codes, (std::vector<short>{RTLONG, RTANG, RTPOINT, RTNIL, RTT, RTDOTE, RTLB, RTLE, RTREAL, RTSHORT, RTREAL}));
+    EXPECT_EQ(list->getResbuf()->resval.rlong, -100000);
+    EXPECT_EQ(root->get(&CZemDataKey().set(L"sym"))->key().type(), RTDXF0);
+}
+
+TEST(DataFile, MalformedTextIsRefusedWithAMessage) {
+    const char* bad[] = {
+        "",
+        "ZEMDATA 2 {}",
+        "DATA 1 {}",
+        "ZEMDATA 1 { A = 1 }",
+        "ZEMDATA 1 { A = 1; a = 2; }",
+        "ZEMDATA 1 { A = 40000; }",
+        "ZEMDATA 1 { A = \"x\\q\"; }",
+        "ZEMDATA 1 { A = \"open; }",
+        "ZEMDATA 1 { A = P(1 2); }",
+        "ZEMDATA 1 { A = 1.5.5; }",
+        "ZEMDATA 1 { 1.5 = 1; }",
+        "ZEMDATA 1 { A { }",
+        "ZEMDATA 1 { } { }",
+        "ZEMDATA 1 { A = \"\\u0000\"; }",
+        "ZEMDATA 1 { A = { }; }",
+        "ZEMDATA 1 { 99999999999 = 1; }",
+    };
+    for (const char* text : bad) {
+        datatest::DumpCapture dump;
+        std::unique_ptr<CZemDataItem> root(new CZemDataItem());
+        CZemDataItem* before = root.get();
+        EXPECT_FALSE(parseText(text, root)) << text;
+        EXPECT_EQ(root.get(), before) << "nothing half-read is kept: " << text;
+        EXPECT_NE(datatest::DumpCapture::text().find(L"test.dta:"), std::wstring::npos) << text;
+    }
+    std::string deep = "ZEMDATA 1 {";
+    for (int k = 0; k < 300; ++k) deep += " A {";
+    std::unique_ptr<CZemDataItem> root;
+    datatest::DumpCapture dump;
+    EXPECT_FALSE(parseText(deep + std::string(301, '}'), root));
+}
+
+TEST(DataFile, AnInterruptedOrFailedSaveKeepsThePreviousFile) {
+    const std::string folder = datatest::freshFolder("DataFileSave");
+    const std::wstring path = datatest::widen(folder + "/set.dta");
+    CZemDataItem first(CZemDataItem::typeDir);
+    dataItemSet(&first, &CZemDataKey().set(L"V"), 1);
+    const CZemDataFile file(path.c_str());
+    ASSERT_TRUE(file.save(&first));
+    const std::string saved = datatest::readBytes(folder + "/set.dta");
+
+    CZemDataItem second(first);
+    dataItemSet(&second, &CZemDataKey().set(L"V"), 2);
+    ASSERT_TRUE(file.writeTemporary(&second));  // the process dies here
+    EXPECT_EQ(datatest::readBytes(folder + "/set.dta"), saved);
+    std::unique_ptr<CZemDataItem> back;
+    ASSERT_TRUE(file.load(back));
+    EXPECT_TRUE(*back == first);
+    ASSERT_TRUE(file.save(&second)) << "a temporary file left behind does not hurt";
+    ASSERT_TRUE(file.load(back));
+    EXPECT_TRUE(*back == second);
+
+    std::filesystem::remove(folder + "/set.dta.tmp");
+    std::filesystem::create_directory(folder + "/set.dta.tmp");
+    datatest::DumpCapture dump;
+    EXPECT_FALSE(file.save(&first)) << "the temporary file cannot be written";
+    ASSERT_TRUE(file.load(back));
+    EXPECT_TRUE(*back == second);
+
+    CZemDataItem unknown;
+    unknown.setData(rbNew(1234), false);
+    EXPECT_FALSE(file.save(&unknown)) << "a code the format cannot hold";
+    ASSERT_TRUE(file.load(back));
+    EXPECT_TRUE(*back == second);
+}
+
+TEST(DataFile, FileBackedDataSetsOpenAndSave) {
+    const std::string folder = datatest::freshFolder("DtaFile");
+    const std::wstring path = datatest::widen(folder + "/walls.dta");
+    datatest::DumpCapture dump;
+    EXPECT_EQ(zemDtaOpenFile(path.c_str(), zemDtaRead), nullptr) << "missing, read only";
+    std::unique_ptr<CZemDtaFilePointer> data(zemDtaOpenFile(path.c_str(), zemDtaRead | zemDtaWrite));
+    ASSERT_NE(data, nullptr);
+    dtaWrite(data.get(), L"SN\\1\\LEN", 2.5);
+    EXPECT_TRUE(data->save());
+    {
+        std::unique_ptr<CZemDtaFilePointer> again(zemDtaOpenFile(path.c_str(), zemDtaRead | zemDtaWrite | zemDtaSaveOnClose));
+        ASSERT_NE(again, nullptr);
+        double len = 0;
+        EXPECT_TRUE(itemGet(again->get(nullptr), L"SN\\1\\LEN", len));
+        EXPECT_EQ(len, 2.5);
+        dtaWrite(again.get(), L"SN\\2\\LEN", 4.0);
+    }
+    std::unique_ptr<CZemDtaFilePointer> closed(zemDtaOpenFile(path.c_str(), zemDtaRead));
+    ASSERT_NE(closed, nullptr);
+    EXPECT_NE(closed->get(&CZemDataKey().set(L"SN\\2\\LEN")), nullptr) << "saved on close";
+    EXPECT_FALSE(closed->save()) << "opened without zemDtaWrite";
+
+    datatest::writeBytes(folder + "/broken.dta", "ZEMDATA 1 { A = ; ");
+    EXPECT_EQ(zemDtaOpenFile(datatest::widen(folder + "/broken.dta").c_str(), zemDtaWrite), nullptr);
+}
