@@ -75,8 +75,11 @@ void CZemFontPicture::fillRegion(std::vector<unsigned char>& rgb, const ZemRegio
         }
         std::sort(xs.begin(), xs.end());
         for (size_t k = 0; k + 1 < xs.size(); k += 2) {
-            const int a = std::max(0, static_cast<int>(std::ceil((xs[k] - kViewLeft) * m_scale * kSub - 0.5)));
-            const int b = std::min(m_cellW * kSub, static_cast<int>(std::ceil((xs[k + 1] - kViewLeft) * m_scale * kSub - 0.5)));
+            auto sample = [&](double x) {
+                return static_cast<int>(std::ceil((x - kViewLeft) * m_scale * kSub - 0.5));
+            };
+            const int a = std::max(0, sample(xs[k]));
+            const int b = std::min(m_cellW * kSub, sample(xs[k + 1]));
             for (int sx = a; sx < b; ++sx) ++cover[static_cast<size_t>(sy / kSub) * m_cellW + sx / kSub];
         }
     }

@@ -151,8 +151,10 @@ void drawU(CZemGlyphSketch& s) {
 void zigzag(CZemGlyphSketch& s, const std::vector<ZemSkPoint>& inner) {
     const ZemSkPoint& first = inner.front();
     const ZemSkPoint& last = inner.back();
-    const ZemSkPoint a = zem_font_beyond(first, {zem_font_slant_x(kLeft, kXHeight, first.x, first.y, 1), kXHeight}, 0.05);
-    const ZemSkPoint b = zem_font_beyond(last, {zem_font_slant_x(kRight, kXHeight, last.x, last.y, -1), kXHeight}, 0.05);
+    const double xa = zem_font_slant_x(kLeft, kXHeight, first.x, first.y, 1);
+    const double xb = zem_font_slant_x(kRight, kXHeight, last.x, last.y, -1);
+    const ZemSkPoint a = zem_font_beyond(first, {xa, kXHeight}, 0.05);
+    const ZemSkPoint b = zem_font_beyond(last, {xb, kXHeight}, 0.05);
     s.move(a.x, a.y);
     for (const ZemSkPoint& p : inner) s.line(p.x, p.y);
     s.line(b.x, b.y);

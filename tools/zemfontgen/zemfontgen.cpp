@@ -125,7 +125,8 @@ bool drawPicture(const Options& o, const std::vector<ZemGlyphOutline>& glyphs) {
 int main(int argc, char** argv) {
     Options o;
     if (!parse(argc, argv, o)) {
-        std::fprintf(stderr, "usage: zemfontgen --out DIR | --compare DIR | --png FILE [--scale N] [--codes C,...] [--draft]\n");
+        std::fprintf(stderr, "usage: zemfontgen --out DIR | --compare DIR | "
+                             "--png FILE [--scale N] [--codes C,...] [--draft]\n");
         return 2;
     }
     std::vector<ZemGlyphOutline> glyphs;
