@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -90,7 +91,7 @@ int CZemContour::arcWinding(const CZemArc& arc, const CZemPoint3d& p) const {
         const double t = arc.paramOfAngle(angle, 0.0);
         if (t > 0.0 && t < 1.0) cuts[n++] = t;
     }
-    std::sort(cuts + 1, cuts + n);
+    if (n == 3 && cuts[2] < cuts[1]) std::swap(cuts[1], cuts[2]);
     cuts[n] = 1.0;
     int w = 0;
     CZemPoint3d a = arc.start();
