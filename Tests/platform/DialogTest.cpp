@@ -1,0 +1,124 @@
+#include "CDataExchange.h"
+#include "CDialog.h"
+#include "CEdit.h"
+#include "ZemModalScript.h"
+#include "ZemTestHost.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr UINT kForm = 9000;
+constexpr int kName = 9010;
+
+// An edit that can keep Return to itself, as a multi-line entry would.
+class CReturnKeepingEdit : public CEdit {
+public:
+    bool keep = false;
+    int returnsKept = 0;
+    BOOL PreTranslateMessage(MSG* msg) override {
+        if (!keep || msg->message != WM_KEYDOWN || msg->wParam != VK_RETURN) return FALSE;
+        ++returnsKept;
+        return TRUE;
+    }
+};
+
+// The form of template 9000: its name field bound to an object, the text
+// taken on OK.
+class CFormDialog : public CDialog {
+public:
+    explicit CFormDialog(CWnd* parent) : CDialog(kForm, parent) {}
+    CReturnKeepingEdit m_name;
+    CString m_taken;
+    int initRuns = 0;
+    int keyDownsSeen = 0;
+
+    BOOL OnInitDialog() override {
+        CDialog::OnInitDialog();
+        ++initRuns;
+        m_name.SetWindowTextW(L"start");
+        return TRUE;
+    }
+    void DoDataExchange(CDataExchange* dx) override {
+        DDX_Control(dx, kName, m_name);
+        if (dx->m_bSaveAndValidate) m_name.GetWindowTextW(m_taken);
+    }
+    BOOL PreTranslateMessage(MSG* msg) override {
+        if (msg->message == WM_KEYDOWN) ++keyDownsSeen;
+        return CDialog::PreTranslateMessage(msg);
+    }
+};
+
+}  // namespace
+
+TEST(Dialog, ModalFormEndsWithOneOnOkAndTwoOnCancel) {
+    CZemTestHost host;
+    CWnd* owner = CWnd::FromHandle(host.hwnd());
+    CFormDialog form(owner);
+
+    CZemModalScript typeAndReturn({CZemModalScript::focusItem(kName), CZemModalScript::setText(kName, L"typed"),
+                                   CZemModalScript::run([&](HWND) { EXPECT_FALSE(IsWindowEnabled(host.hwnd())); }),
+                                   CZemModalScript::pressKey(VK_RETURN)});
+    typeAndReturn.arm();
+    EXPECT_EQ(form.DoModal(), 1);
+    EXPECT_FALSE(typeAndReturn.timedOut());
+    EXPECT_EQ(typeAndReturn.firstCaption(), L"Zem_Mfc 9000");
+    EXPECT_EQ(form.m_taken, L"typed");
+    EXPECT_GE(form.keyDownsSeen, 1);
+    EXPECT_TRUE(IsWindowEnabled(host.hwnd()));
+    EXPECT_EQ(form.m_hWnd, nullptr);
+    EXPECT_EQ(form.m_name.m_hWnd, nullptr);
+
+    // The same object runs again; its controls bind afresh.
+    form.m_taken.Empty();
+    CZemModalScript cancel({CZemModalScript::setText(kName, L"dropped"), CZemModalScript::clickButton(IDCANCEL)});
+    cancel.arm();
+    EXPECT_EQ(form.DoModal(), 2);
+    EXPECT_FALSE(cancel.timedOut());
+    EXPECT_TRUE(form.m_taken.IsEmpty());
+    EXPECT_EQ(form.initRuns, 2);
+
+    CZemModalScript escape({CZemModalScript::focusItem(kName), CZemModalScript::pressKey(VK_ESCAPE)});
+    escape.arm();
+    EXPECT_EQ(form.DoModal(), 2);
+    EXPECT_FALSE(escape.timedOut());
+}
+
+TEST(Dialog, ControlObjectsSeeKeysBeforeTheDialog) {
+    CZemTestHost host;
+    CFormDialog form(CWnd::FromHandle(host.hwnd()));
+    form.m_name.keep = true;
+    CZemModalScript script({CZemModalScript::focusItem(kName), CZemModalScript::pressKey(VK_RETURN),
+                            CZemModalScript::run([&](HWND) { form.EndDialog(7); })});
+    script.arm();
+    EXPECT_EQ(form.DoModal(), 7);
+    EXPECT_FALSE(script.timedOut());
+    EXPECT_EQ(form.m_name.returnsKept, 1);
+    EXPECT_EQ(form.keyDownsSeen, 0);
+    EXPECT_TRUE(form.m_taken.IsEmpty());
+}
+
+TEST(Dialog, MissingTemplateGivesMinusOneAndFreesTheOwner) {
+    CZemTestHost host;
+    CDialog missing(8999u, CWnd::FromHandle(host.hwnd()));
+    EXPECT_EQ(missing.DoModal(), -1);
+    EXPECT_TRUE(IsWindowEnabled(host.hwnd()));
+    EXPECT_FALSE(missing.Create(8999u, nullptr));
+}
+
+TEST(Dialog, ModelessFormLivesUntilDestroyed) {
+    CZemTestHost host;
+    CFormDialog form(nullptr);
+    ASSERT_TRUE(form.Create(kForm, CWnd::FromHandle(host.hwnd())));
+    EXPECT_EQ(form.initRuns, 1);
+    EXPECT_EQ(GetWindow(form, GW_OWNER), host.hwnd());
+    CString text;
+    form.m_name.GetWindowTextW(text);
+    EXPECT_EQ(text, L"start");
+    EXPECT_TRUE(IsWindowEnabled(host.hwnd()));
+
+    form.EndDialog(IDOK);
+    EXPECT_FALSE(form.IsWindowVisible());
+    EXPECT_TRUE(form.DestroyWindow());
+    EXPECT_EQ(form.m_hWnd, nullptr);
+}
