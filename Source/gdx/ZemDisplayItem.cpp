@@ -2,6 +2,27 @@
 
 CZemDisplayItem::CZemDisplayItem(const CZemDisplayItem& other) { *this = other; }
 
+namespace {
+
+// Strings and colours are only assigned when they differ: assigning an empty
+// string allocates a buffer for its ending 0, which items that never carry
+// text or names would otherwise pay for.
+void copyString(CZemString& to, const CZemString& from) {
+    if (!(to.isEmpty() && from.isEmpty())) to = from;
+}
+
+// An index colour without names is set by its index, which leaves the names
+// alone; anything else, or a result that still differs, is assigned whole.
+void copyColor(CZemColor& to, const CZemColor& from) {
+    if (to == from) return;
+    const bool noNames = from.bookName().isEmpty() && from.colorName().isEmpty() && to.bookName().isEmpty() &&
+                         to.colorName().isEmpty();
+    if (from.kind() == CZemColor::byIndex && noNames) to.setColorIndex(from.colorIndex());
+    if (!(to == from)) to = from;
+}
+
+}  // namespace
+
 // Every field in declaration order; the arrays test for self-assignment
 // themselves, and the hatch goes member by member.
 CZemDisplayItem& CZemDisplayItem::operator=(const CZemDisplayItem& other) {
@@ -9,7 +30,7 @@ CZemDisplayItem& CZemDisplayItem::operator=(const CZemDisplayItem& other) {
     m_type = other.m_type;
     m_flags = other.m_flags;
     m_stack = other.m_stack;
-    m_color = other.m_color;
+    copyColor(m_color, other.m_color);
     m_linetype = other.m_linetype;
     m_ltscale = other.m_ltscale;
     m_pt = other.m_pt;
@@ -18,17 +39,17 @@ CZemDisplayItem& CZemDisplayItem::operator=(const CZemDisplayItem& other) {
     m_vl = other.m_vl;
     m_regl = other.m_regl;
     m_mtx = other.m_mtx;
-    m_fcolor = other.m_fcolor;
+    copyColor(m_fcolor, other.m_fcolor);
     m_thickn = other.m_thickn;
-    m_hatch.name = other.m_hatch.name;
+    copyString(m_hatch.name, other.m_hatch.name);
     m_hatch.angle = other.m_hatch.angle;
     m_hatch.scale = other.m_hatch.scale;
     m_hatch.flag = other.m_hatch.flag;
-    m_auxName = other.m_auxName;
+    copyString(m_auxName, other.m_auxName);
     m_auxVector = other.m_auxVector;
     m_extMtx = other.m_extMtx;
-    m_txtAlign = other.m_txtAlign;
-    m_txt = other.m_txt;
+    copyString(m_txtAlign, other.m_txtAlign);
+    copyString(m_txt, other.m_txt);
     m_txtRegl = other.m_txtRegl;
     return *this;
 }

@@ -179,7 +179,8 @@ private:
     bool switchFlag(int i, unsigned long prop);
     void foldExtents(const CZemPoint3d& lo, const CZemPoint3d& hi);
     void foldVertexList(const CZemVertexArray& vl, const CZemMatrix3d& mtx);
-    static void itemBounds(CZemDisplayItem& item, const CZemMatrix3d& t, CZemVertexArray& scratch, CZemPoint3d& lo,
-                           CZemPoint3d& hi);
+    static void itemBounds(CZemDisplayItem& item, const CZemMatrix3d& t, CZemPoint3d& lo, CZemPoint3d& hi);
+    static void vertexListBounds(const CZemVertexArray& vl, const CZemMatrix3d& t, CZemPoint3d& lo, CZemPoint3d& hi);
+    CZemArrayTempl<int> drawingOrder() const;
     void reorder(const CZemArrayTempl<int>& order);
 };
