@@ -22,9 +22,11 @@ unsigned int HashKey(ARG_KEY key) {
         std::uint64_t bits = 0;
         std::memcpy(&bits, &d, sizeof bits);
         return static_cast<unsigned int>((bits ^ (bits >> 32)) >> 4);
-    } else if constexpr (std::is_pointer_v<Key> && std::is_same_v<std::remove_cv_t<std::remove_pointer_t<Key>>, wchar_t>) {
+    } else if constexpr (std::is_convertible_v<Key, const wchar_t*>) {
         unsigned int hash = 0;
-        for (const wchar_t* p = key; p != nullptr && *p != L'\0'; ++p) hash = (hash << 5) + hash + static_cast<unsigned int>(*p);
+        for (const wchar_t* p = key; p != nullptr && *p != L'\0'; ++p) {
+            hash = (hash << 5) + hash + static_cast<unsigned int>(*p);
+        }
         return hash;
     } else if constexpr (std::is_pointer_v<Key>) {
         return static_cast<unsigned int>(reinterpret_cast<std::uintptr_t>(key) >> 4);

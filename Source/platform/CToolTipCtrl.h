@@ -13,7 +13,8 @@ public:
 
     // A tool for a whole window when rect is null and id 0 (its text asked
     // of the window's parent with TTF_IDISHWND), else for a rectangle of it.
-    BOOL AddTool(CWnd* wnd, LPCWSTR text = LPSTR_TEXTCALLBACKW, LPCRECT rect = nullptr, UINT_PTR id = 0);  // TTM_ADDTOOLW
+    BOOL AddTool(CWnd* wnd, LPCWSTR text = LPSTR_TEXTCALLBACKW, LPCRECT rect = nullptr,
+                 UINT_PTR id = 0);                                           // TTM_ADDTOOLW
     void DelTool(CWnd* wnd, UINT_PTR id = 0);                                // TTM_DELTOOLW
     void UpdateTipText(LPCWSTR text, CWnd* wnd, UINT_PTR id = 0);            // TTM_UPDATETIPTEXTW
     int GetToolCount() const;                                                // TTM_GETTOOLCOUNT

@@ -114,7 +114,8 @@ protected:                                             \
     {static_cast<UINT>(message), static_cast<UINT>(code), static_cast<UINT>(id), static_cast<UINT>(lastId), \
      ZemSig::sig, zemPmsg(static_cast<type>(fn))},
 
-#define ON_WM_CREATE() ZEM_MSG_ENTRY(WM_CREATE, 0, 0, 0, i_CREATE, int (CWnd::*)(LPCREATESTRUCT), &ThisClass::OnCreate)
+#define ON_WM_CREATE() \
+    ZEM_MSG_ENTRY(WM_CREATE, 0, 0, 0, i_CREATE, int (CWnd::*)(LPCREATESTRUCT), &ThisClass::OnCreate)
 #define ON_WM_DESTROY() ZEM_MSG_ENTRY(WM_DESTROY, 0, 0, 0, v_v, void (CWnd::*)(), &ThisClass::OnDestroy)
 #define ON_WM_NCDESTROY() ZEM_MSG_ENTRY(WM_NCDESTROY, 0, 0, 0, v_v, void (CWnd::*)(), &ThisClass::OnNcDestroy)
 #define ON_WM_CLOSE() ZEM_MSG_ENTRY(WM_CLOSE, 0, 0, 0, v_v, void (CWnd::*)(), &ThisClass::OnClose)
@@ -127,16 +128,24 @@ protected:                                             \
     ZEM_MSG_ENTRY(WM_HELP, 0, 0, 0, b_HELPINFO, BOOL (CWnd::*)(HELPINFO*), &ThisClass::OnHelpInfo)
 #define ON_WM_MOUSEWHEEL() \
     ZEM_MSG_ENTRY(WM_MOUSEWHEEL, 0, 0, 0, b_w_s_p, BOOL (CWnd::*)(UINT, short, CPoint), &ThisClass::OnMouseWheel)
-#define ZEM_ON_MOUSE(message, fn) ZEM_MSG_ENTRY(message, 0, 0, 0, v_w_p, void (CWnd::*)(UINT, CPoint), &ThisClass::fn)
-#define ON_WM_MOUSEMOVE() ZEM_ON_MOUSE(WM_MOUSEMOVE, OnMouseMove)
-#define ON_WM_LBUTTONDOWN() ZEM_ON_MOUSE(WM_LBUTTONDOWN, OnLButtonDown)
-#define ON_WM_LBUTTONUP() ZEM_ON_MOUSE(WM_LBUTTONUP, OnLButtonUp)
-#define ON_WM_LBUTTONDBLCLK() ZEM_ON_MOUSE(WM_LBUTTONDBLCLK, OnLButtonDblClk)
-#define ON_WM_MBUTTONDOWN() ZEM_ON_MOUSE(WM_MBUTTONDOWN, OnMButtonDown)
-#define ON_WM_MBUTTONUP() ZEM_ON_MOUSE(WM_MBUTTONUP, OnMButtonUp)
-#define ON_WM_MBUTTONDBLCLK() ZEM_ON_MOUSE(WM_MBUTTONDBLCLK, OnMButtonDblClk)
-#define ON_WM_RBUTTONDOWN() ZEM_ON_MOUSE(WM_RBUTTONDOWN, OnRButtonDown)
-#define ON_WM_RBUTTONUP() ZEM_ON_MOUSE(WM_RBUTTONUP, OnRButtonUp)
+#define ON_WM_MOUSEMOVE() \
+    ZEM_MSG_ENTRY(WM_MOUSEMOVE, 0, 0, 0, v_w_p, void (CWnd::*)(UINT, CPoint), &ThisClass::OnMouseMove)
+#define ON_WM_LBUTTONDOWN() \
+    ZEM_MSG_ENTRY(WM_LBUTTONDOWN, 0, 0, 0, v_w_p, void (CWnd::*)(UINT, CPoint), &ThisClass::OnLButtonDown)
+#define ON_WM_LBUTTONUP() \
+    ZEM_MSG_ENTRY(WM_LBUTTONUP, 0, 0, 0, v_w_p, void (CWnd::*)(UINT, CPoint), &ThisClass::OnLButtonUp)
+#define ON_WM_LBUTTONDBLCLK() \
+    ZEM_MSG_ENTRY(WM_LBUTTONDBLCLK, 0, 0, 0, v_w_p, void (CWnd::*)(UINT, CPoint), &ThisClass::OnLButtonDblClk)
+#define ON_WM_MBUTTONDOWN() \
+    ZEM_MSG_ENTRY(WM_MBUTTONDOWN, 0, 0, 0, v_w_p, void (CWnd::*)(UINT, CPoint), &ThisClass::OnMButtonDown)
+#define ON_WM_MBUTTONUP() \
+    ZEM_MSG_ENTRY(WM_MBUTTONUP, 0, 0, 0, v_w_p, void (CWnd::*)(UINT, CPoint), &ThisClass::OnMButtonUp)
+#define ON_WM_MBUTTONDBLCLK() \
+    ZEM_MSG_ENTRY(WM_MBUTTONDBLCLK, 0, 0, 0, v_w_p, void (CWnd::*)(UINT, CPoint), &ThisClass::OnMButtonDblClk)
+#define ON_WM_RBUTTONDOWN() \
+    ZEM_MSG_ENTRY(WM_RBUTTONDOWN, 0, 0, 0, v_w_p, void (CWnd::*)(UINT, CPoint), &ThisClass::OnRButtonDown)
+#define ON_WM_RBUTTONUP() \
+    ZEM_MSG_ENTRY(WM_RBUTTONUP, 0, 0, 0, v_w_p, void (CWnd::*)(UINT, CPoint), &ThisClass::OnRButtonUp)
 #define ON_WM_SETFOCUS() ZEM_MSG_ENTRY(WM_SETFOCUS, 0, 0, 0, v_W, void (CWnd::*)(CWnd*), &ThisClass::OnSetFocus)
 #define ON_WM_KILLFOCUS() ZEM_MSG_ENTRY(WM_KILLFOCUS, 0, 0, 0, v_W, void (CWnd::*)(CWnd*), &ThisClass::OnKillFocus)
 #define ON_WM_HSCROLL() \
@@ -163,7 +172,8 @@ protected:                                             \
     ZEM_MSG_ENTRY(WM_REFLECT_BASE + WM_MEASUREITEM, 0, 0, 0, v_MEASURE, void (CWnd::*)(LPMEASUREITEMSTRUCT), \
                   &ThisClass::MeasureItem)
 
-#define ON_MESSAGE(message, fn) ZEM_MSG_ENTRY(message, 0, 0, 0, l_w_l, LRESULT (CWnd::*)(WPARAM, LPARAM), &ThisClass::fn)
+#define ON_MESSAGE(message, fn) \
+    ZEM_MSG_ENTRY(message, 0, 0, 0, l_w_l, LRESULT (CWnd::*)(WPARAM, LPARAM), &ThisClass::fn)
 
 #define ON_COMMAND(id, fn) ZEM_MSG_ENTRY(WM_COMMAND, 0, id, id, cmd_v, void (CWnd::*)(), &ThisClass::fn)
 #define ON_COMMAND_RANGE(id, idLast, fn) \

@@ -15,17 +15,48 @@
 
 namespace {
 
-// An owner-drawn list that counts the rows it is asked to draw.
+// An owner-drawn list with rows 30 pixels high that counts the rows it is
+// asked to draw.
 class CCountingList : public CListCtrl {
 public:
     int rowsDrawn = 0;
+    int measured = 0;
     void DrawItem(LPDRAWITEMSTRUCT draw) override {
         if (draw->itemAction & ODA_DRAWENTIRE) ++rowsDrawn;
     }
+
+protected:
+    afx_msg void MeasureItem(LPMEASUREITEMSTRUCT measure) {
+        ++measured;
+        measure->itemHeight = 30;
+    }
+    DECLARE_MESSAGE_MAP()
 };
 
-// A parent window object with no entries of its own.
-class CPlainParent : public CWnd {};
+BEGIN_MESSAGE_MAP(CCountingList, CListCtrl)
+ON_WM_MEASUREITEM_REFLECT()
+END_MESSAGE_MAP()
+
+// A parent window object with no entries but the tool tip text of its children.
+class CPlainParent : public CWnd {
+public:
+    UINT tipId = 99;
+
+protected:
+    afx_msg BOOL onNeedText(UINT id, NMHDR* header, LRESULT*) {
+        auto* tip = reinterpret_cast<NMTTDISPINFOW*>(header);
+        if (!(tip->uFlags & TTF_IDISHWND)) return FALSE;
+        tipId = id;
+        static wchar_t text[] = L"Breite der Kontur";
+        tip->lpszText = text;
+        return TRUE;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CPlainParent, CWnd)
+ON_NOTIFY_EX_RANGE(TTN_NEEDTEXTW, 0, 0xFFFF, onNeedText)
+END_MESSAGE_MAP()
 
 }  // namespace
 
@@ -64,6 +95,10 @@ TEST(Controls, ListControlCellsHeaderAndOwnerDrawing) {
     drawn.Invalidate();
     drawn.UpdateWindow();
     EXPECT_EQ(drawn.rowsDrawn, 2) << "WM_DRAWITEM of the parent reaches the list's DrawItem";
+    EXPECT_GE(drawn.measured, 1) << "WM_MEASUREITEM of the parent reaches the list's MeasureItem";
+    CRect row;
+    ASSERT_TRUE(drawn.GetItemRect(1, &row, LVIR_BOUNDS));
+    EXPECT_EQ(row.Height(), 30);
 }
 
 TEST(Controls, TextOfComboListBoxAndTreeEntries) {
@@ -122,7 +157,8 @@ TEST(Controls, TabsAndToolTipsOfTheChildren) {
     EXPECT_TRUE(tabs.GetItemRect(0, &first));
     EXPECT_FALSE(first.IsRectEmpty());
 
-    CreateWindowExW(0, L"BUTTON", L"OK", WS_CHILD | WS_VISIBLE, 0, 160, 60, 24, parent, nullptr, nullptr, nullptr);
+    HWND button =
+        CreateWindowExW(0, L"BUTTON", L"OK", WS_CHILD | WS_VISIBLE, 0, 160, 60, 24, parent, nullptr, nullptr, nullptr);
     EXPECT_TRUE(parent.EnableToolTips(TRUE));
     EXPECT_TRUE(parent.EnableToolTips(TRUE));
     HWND tip = nullptr;
@@ -133,6 +169,15 @@ TEST(Controls, TabsAndToolTipsOfTheChildren) {
     }
     ASSERT_NE(tip, nullptr);
     EXPECT_EQ(SendMessageW(tip, TTM_GETTOOLCOUNT, 0, 0), 2) << "one tool for each child, however often enabled";
+    wchar_t text[80] = {};
+    TOOLINFOW tool = {};
+    tool.cbSize = TTTOOLINFOW_V2_SIZE;
+    tool.hwnd = parent;
+    tool.uId = reinterpret_cast<UINT_PTR>(button);
+    tool.lpszText = text;
+    SendMessageW(tip, TTM_GETTEXTW, 80, reinterpret_cast<LPARAM>(&tool));
+    EXPECT_STREQ(text, L"Breite der Kontur");
+    EXPECT_EQ(parent.tipId, 0u) << "a pop-up tool tip has the control id 0";
     EXPECT_TRUE(parent.EnableToolTips(FALSE));
     EXPECT_FALSE(IsWindow(tip));
 }
@@ -148,7 +193,10 @@ TEST(Controls, FileDialogGivesTheChosenPath) {
     CZemTestHost host;
     CFileDialog chooser(TRUE, L"chm", L"start.chm", OFN_FILEMUSTEXIST, L"(*.chm)|*.chm||", CWnd::FromHandle(host.hwnd()));
     EXPECT_EQ(std::wstring(chooser.GetOFN().lpstrFilter, 16), std::wstring(L"(*.chm)\0*.chm\0\0", 16));
-    CZemModalScript script({CZemModalScript::setText(cmb13, path.c_str()), CZemModalScript::clickButton(IDOK)});
+    // The shell's first look at the folders may take a while.
+    const UINT patience = 30000;
+    CZemModalScript script({CZemModalScript::setText(cmb13, path.c_str()), CZemModalScript::clickButton(IDOK)},
+                           patience);
     script.arm();
     EXPECT_EQ(chooser.DoModal(), IDOK);
     EXPECT_FALSE(script.timedOut());
@@ -159,7 +207,7 @@ TEST(Controls, FileDialogGivesTheChosenPath) {
     _wremove(path.c_str());
 
     CFileDialog cancelled(TRUE);
-    CZemModalScript cancel({CZemModalScript::clickButton(IDCANCEL)});
+    CZemModalScript cancel({CZemModalScript::clickButton(IDCANCEL)}, patience);
     cancel.arm();
     EXPECT_EQ(cancelled.DoModal(), IDCANCEL);
 }

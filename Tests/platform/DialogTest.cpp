@@ -98,6 +98,45 @@ TEST(Dialog, ControlObjectsSeeKeysBeforeTheDialog) {
     EXPECT_TRUE(form.m_taken.IsEmpty());
 }
 
+TEST(Dialog, ModalDialogOpensAboveAModalDialog) {
+    CZemTestHost host;
+    CFormDialog form(CWnd::FromHandle(host.hwnd()));
+    INT_PTR inner = 0;
+    bool outerDisabledMeanwhile = false;
+    CZemModalScript script({CZemModalScript::run([&](HWND) {
+                                CDialog above(9001u, &form);
+                                inner = above.DoModal();
+                            }),
+                            CZemModalScript::run([&](HWND) { outerDisabledMeanwhile = !form.IsWindowEnabled(); }),
+                            CZemModalScript::clickButton(IDOK), CZemModalScript::clickButton(IDCANCEL)});
+    script.arm();
+    EXPECT_EQ(form.DoModal(), 2);
+    EXPECT_FALSE(script.timedOut());
+    EXPECT_EQ(inner, 1);
+    EXPECT_TRUE(outerDisabledMeanwhile);
+}
+
+// A form whose data exchange names a control the template lacks.
+class CBrokenForm : public CDialog {
+public:
+    CBrokenForm() : CDialog(kForm) {}
+    CEdit m_missing;
+    void DoDataExchange(CDataExchange* dx) override { DDX_Control(dx, 9999, m_missing); }
+};
+
+TEST(Dialog, FailedDataExchangeKeepsTheDialogOpen) {
+    CZemTestHost host;
+    CBrokenForm form;
+    bool openAfterOk = false;
+    CZemModalScript script({CZemModalScript::clickButton(IDOK),
+                            CZemModalScript::run([&](HWND dialog) { openAfterOk = IsWindowVisible(dialog) != 0; }),
+                            CZemModalScript::clickButton(IDCANCEL)});
+    script.arm();
+    EXPECT_EQ(form.DoModal(), 2);
+    EXPECT_TRUE(openAfterOk);
+    EXPECT_EQ(form.m_missing.m_hWnd, nullptr);
+}
+
 TEST(Dialog, MissingTemplateGivesMinusOneAndFreesTheOwner) {
     CZemTestHost host;
     CDialog missing(8999u, CWnd::FromHandle(host.hwnd()));

@@ -1,4 +1,5 @@
 #include "CButton.h"
+#include "CListCtrl.h"
 #include "CWnd.h"
 #include "ZemTestHost.h"
 
@@ -111,6 +112,44 @@ BEGIN_MESSAGE_MAP(CSelfishButton, CButton)
 ON_CONTROL_REFLECT_EX(BN_CLICKED, onClicked)
 END_MESSAGE_MAP()
 
+// A panel that hears its list's selection changes.
+class CListPanel : public CWnd {
+public:
+    std::vector<std::string> log;
+
+protected:
+    afx_msg void onItemChanged(NMHDR* header, LRESULT*) {
+        const auto* change = reinterpret_cast<const NMLISTVIEW*>(header);
+        if (change->uNewState & LVIS_SELECTED) log.push_back("panel: row " + std::to_string(change->iItem));
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CListPanel, CWnd)
+ON_NOTIFY(LVN_ITEMCHANGED, 600, onItemChanged)
+END_MESSAGE_MAP()
+
+// A list that looks at its own selection changes first and passes them on.
+class CWatchfulList : public CListCtrl {
+public:
+    explicit CWatchfulList(std::vector<std::string>& log) : m_log(log) {}
+
+protected:
+    afx_msg BOOL onOwnChange(NMHDR* header, LRESULT*) {
+        const auto* change = reinterpret_cast<const NMLISTVIEW*>(header);
+        if (change->uNewState & LVIS_SELECTED) m_log.push_back("list: row " + std::to_string(change->iItem));
+        return FALSE;
+    }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    std::vector<std::string>& m_log;
+};
+
+BEGIN_MESSAGE_MAP(CWatchfulList, CListCtrl)
+ON_NOTIFY_REFLECT_EX(LVN_ITEMCHANGED, onOwnChange)
+END_MESSAGE_MAP()
+
 HWND childOf(HWND parent, UINT id, const wchar_t* cls = L"BUTTON") {
     return CreateWindowExW(0, cls, L"", WS_CHILD | WS_VISIBLE, 0, 0, 50, 20, parent,
                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
@@ -172,6 +211,19 @@ TEST(MessageMap, CommandsReachHandlersByIdAndRangeAndControlsHearThemselvesFirst
     keeps.Click();
     EXPECT_EQ(panel.log,
               (std::vector<std::string>{"button heard itself", "parent heard 130", "button heard itself"}));
+}
+
+TEST(MessageMap, NotificationsReachTheControlFirstThenTheParentById) {
+    CZemTestHost host;
+    CListPanel panel;
+    ASSERT_TRUE(panel.CreateEx(0, nullptr, L"", WS_CHILD | WS_VISIBLE, 0, 0, 300, 200, host.hwnd(), nullptr));
+    CWatchfulList list(panel.log);
+    ASSERT_TRUE(list.Create(WS_VISIBLE | LVS_REPORT, CRect(0, 0, 280, 180), &panel, 600));
+    list.InsertColumn(0, L"Name", LVCFMT_LEFT, 100);
+    list.InsertItem(0, L"a");
+    list.InsertItem(1, L"b");
+    list.SetItemState(1, LVIS_SELECTED, LVIS_SELECTED);
+    EXPECT_EQ(panel.log, (std::vector<std::string>{"list: row 1", "panel: row 1"}));
 }
 
 TEST(MessageMap, HandlerFaultsStayInsideTheWindowProcedure) {

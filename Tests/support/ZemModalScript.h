@@ -14,7 +14,7 @@ class CZemModalScript {
 public:
     using Step = std::function<void(HWND dialog)>;
 
-    explicit CZemModalScript(std::vector<Step> steps, UINT limitMs = 5000);
+    explicit CZemModalScript(std::vector<Step> steps, UINT limitMs = 15000);
     ~CZemModalScript();
     CZemModalScript(const CZemModalScript&) = delete;
     CZemModalScript& operator=(const CZemModalScript&) = delete;
