@@ -1,7 +1,6 @@
 #include "AfxWin.h"
 
 #include "CWinApp.h"
-#include "CWnd.h"
 #include "ZemModuleState.h"
 
 #include <commctrl.h>
@@ -23,17 +22,13 @@ BOOL AfxWinInit(HINSTANCE instance, HINSTANCE, LPWSTR, int) {
 }
 
 void AfxWinTerm() {
-    CWnd::DeleteTempMap();
     if (g_defaultClass != 0) {
         UnregisterClassW(kDefaultClass, AfxGetStaticModuleState()->m_hCurrentInstanceHandle);
         g_defaultClass = 0;
     }
 }
 
-void AfxTermThread(HINSTANCE) {
-    CWnd::DeleteTempMap();
-    AfxSetModuleState(nullptr);
-}
+void AfxTermThread(HINSTANCE) { AfxSetModuleState(nullptr); }
 
 void zemInitCommonControls() {
     static bool done = false;

@@ -7,9 +7,9 @@
 // The current state takes instance as its instance and resource module, and
 // its application object learns the instance.
 BOOL AfxWinInit(HINSTANCE instance, HINSTANCE previous, LPWSTR commandLine, int show);
-// Removes the framework's window class and this thread's temporary objects.
+// Removes the framework's window class.
 void AfxWinTerm();
-// End of a thread: its temporary objects go and its module state becomes the host's.
+// End of a thread: its module state becomes the host's.
 void AfxTermThread(HINSTANCE instance = nullptr);
 
 // Registers the common control classes, once per process.
