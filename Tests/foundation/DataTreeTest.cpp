@@ -24,7 +24,7 @@ CZemDataItem sampleTree() {
     put(L"GEN\\TYPE", mkResbuf(L"OUTLINE"));
     put(L"GEN\\ID", mkResbuf(7, RTSHORT));
     put(L"ROT", mkResbuf(1.5, RTREAL));
-    put(L"BIG", mkResbuf(3000000000.0, RTREAL));
+    put(L"BIG", mkResbuf(5000000000.0, RTREAL));
     put(L"FLAG", mkResbuf(0.0, RTT));
     put(L"MOV", mkResbuf(CZemVector3d(1, 2, 3)));
     return root;
