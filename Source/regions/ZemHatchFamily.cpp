@@ -1,0 +1,192 @@
+#include "ZemHatchFamily.h"
+
+#include "ZemBase.h"
+#include "ZemClip.h"
+#include "ZemPolyline.h"
+#include "ZemPoint3dArray.h"
+#include "ZemRegionPrep.h"
+#include "ZemVector3d.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+const double kPi = 3.14159265358979323846;
+
+}  // namespace
+
+CZemHatchFamily::CZemHatchFamily(const CZemPatternLine& line, const CZemArrayTempl<CZemVertexArray>& regs,
+                                 double diagonal, double rotation, Measure measure)
+    : m_line(line), m_measure(measure), m_rotation(rotation), m_spans(m_regions) {
+    m_turn.setToRotation(rotation, CZemVector3d::kZAxis, CZemPoint3d::kOrigin);
+    m_turnBack.setToRotation(-rotation, CZemVector3d::kZAxis, CZemPoint3d::kOrigin);
+    m_ready = line.hasLines() && prepare(regs, diagonal);
+}
+
+// The regions go into the line's frame, where the family's lines run along X
+// and follow each other along Y; the prototype is laid through the base point.
+bool CZemHatchFamily::prepare(const CZemArrayTempl<CZemVertexArray>& regs, double diagonal) {
+    const double angle = m_line.angle();
+    m_frame.setCoordSystem(CZemPoint3d::kOrigin, ZEM::polar(angle, 1.0), ZEM::polar(angle + kPi / 2.0, 1.0),
+                           CZemVector3d::kZAxis);
+    const CZemMatrix3d toLine = m_frame.inverse();
+    for (int k = 0; k < regs.len(); ++k) m_regions.append(regs[k].getTransformedCopy(toLine));
+    zem_reg_ensure_contour(m_regions);
+    const CZemPoint3dArray box = ZEM::g_vl_extmax(m_regions[0], 0.0);
+    m_low = box[0];
+    double half = 0.0;
+    if (!m_line.sweepBound(box[0].distanceTo(box[1]), m_bound) || !m_line.halfLength(diagonal, half)) return false;
+    // A dash list of gaps alone lays nothing, so no line can show.
+    if (m_line.isDashed() && !m_line.laysDashes()) return false;
+    const CZemPoint3d base = m_line.base() * toLine;
+    m_prototype = CZemVertexArray(CZemVertex(ZEM::polar(base, 0.0, -half), ZEM::polar(base, 0.0, half), 0.0));
+    if (m_line.isDashed()) {
+        m_dashes = std::make_unique<CZemPrototypeDashes>(m_line.dashes(), m_line.laidPeriod(), 2.0 * half);
+    }
+    uprightBox();
+    m_length = 2.0 * half;
+    return descendBelow() && canReach();
+}
+
+// The box of the regions turned back by the pattern's rotation, where the
+// prototype runs along X before it is turned: its X range is the stretch of
+// the prototype that can meet them. Widened by a period, so that partial
+// dashes at its ends never matter.
+void CZemHatchFamily::uprightBox() {
+    const double inf = std::numeric_limits<double>::infinity();
+    m_uprightLo.set(inf, inf, 0.0);
+    m_uprightHi.set(-inf, -inf, 0.0);
+    for (int k = 0; k < m_regions.len(); ++k) {
+        if (m_regions[k].isEmpty()) continue;
+        const CZemVertexArray upright =
+            m_rotation != 0.0 ? m_regions[k].getTransformedCopy(m_turnBack) : m_regions[k];
+        CZemPoint3d min, max;
+        if (!upright.extents(min, max)) continue;
+        m_uprightLo = ZEM::p_min(m_uprightLo, min);
+        m_uprightHi = ZEM::p_max(m_uprightHi, max);
+    }
+    const double size = std::fabs(m_uprightLo.x) + std::fabs(m_uprightHi.x) + std::fabs(m_uprightLo.y) +
+                        std::fabs(m_uprightHi.y);
+    const double margin = m_line.laidPeriod() + 1e-6 * (1.0 + size);
+    m_uprightLo -= CZemVector3d(margin, margin, 0.0);
+    m_uprightHi += CZemVector3d(margin, margin, 0.0);
+}
+
+// Whether any pass can bring the prototype over the regions: the second
+// descent and the sweep move it at most 4 N steps, and it only meets them
+// where its stretch and theirs overlap in both directions.
+bool CZemHatchFamily::canReach() const {
+    const double steps = 4.0 * static_cast<double>(m_bound);
+    const double along = steps * std::fabs(m_line.dx()), across = steps * std::fabs(m_line.dy());
+    const CZemPoint3d& start = m_prototype[0].m_start;
+    const bool alongMeets = start.x - along <= m_uprightHi.x && start.x + m_length + along >= m_uprightLo.x;
+    const bool acrossMeets = start.y - across <= m_uprightHi.y && start.y + across >= m_uprightLo.y;
+    return alongMeets && acrossMeets;
+}
+
+// First descent: below the box of the contour. A far base point is brought
+// near in one move; the last steps are taken one by one.
+bool CZemHatchFamily::descendBelow() {
+    const double lowY = m_low.y;
+    const double startY = m_prototype[0].mid().y;
+    if (!(startY > lowY)) return true;
+    const double steps = std::floor((startY - lowY) / std::fabs(m_line.dy())) - 2.0;
+    if (!std::isfinite(steps)) return false;
+    if (steps > 0.0) {
+        const double shift = m_line.dy() > 0.0 ? m_line.dx() : -m_line.dx();
+        m_prototype.move(CZemVector3d(-steps * shift, -steps * std::fabs(m_line.dy()), 0.0));
+    }
+    for (double y = m_prototype[0].mid().y; y > lowY;) {
+        step(-1.0);
+        const double next = m_prototype[0].mid().y;
+        if (!(next < y)) return false;
+        y = next;
+    }
+    // At a distance where a step no longer moves the line the sweep could
+    // never reach the region.
+    const double y = m_prototype[0].mid().y;
+    return y - std::fabs(m_line.dy()) < y;
+}
+
+// Second descent: on until the line, turned by the pattern's rotation, no
+// longer meets the contour, at most the sweep bound times.
+void CZemHatchFamily::descendClear() {
+    for (long long k = 0; k < m_bound; ++k) {
+        step(-1.0);
+        CZemVertexArray probe(m_prototype);
+        if (m_rotation != 0.0) probe.transformBy(m_turn);
+        if (!meetsContour(probe[0].m_start, probe[-1].m_end)) return;
+    }
+}
+
+// One step of the family, up (+1) or down (-1): |dy| across the lines and dx
+// along them, with the sign of dy.
+void CZemHatchFamily::step(double sign) {
+    const double dy = m_line.dy();
+    const double shift = dy > 0.0 ? m_line.dx() : -m_line.dx();
+    m_prototype.move(CZemVector3d(sign * shift, sign * std::fabs(dy), 0.0));
+}
+
+void CZemHatchFamily::sweep(const CZemMatrix3d& mtx, CZemArrayTempl<CZemVertexArray>& out) {
+    if (!m_ready) return;
+    descendClear();
+    bool seen = false;
+    for (long long pass = 0; pass < 3 * m_bound; ++pass) {
+        step(1.0);
+        CZemVertexArray w = dashesOfPrototype();
+        if (m_rotation != 0.0) {
+            m_prototype.transformBy(m_turn);
+            w.transformBy(m_turn);
+        }
+        if (lineMeetsContour(w)) {
+            seen = true;
+            CZemVertexArray pieces = piecesOf(w);
+            if (!pieces.isEmpty()) {
+                pieces.transformBy(m_frame);
+                pieces.transformBy(mtx);
+                out.append(pieces);
+            }
+        } else if (seen) {
+            return;
+        }
+        if (m_rotation != 0.0) m_prototype.transformBy(m_turnBack);
+    }
+}
+
+CZemVertexArray CZemHatchFamily::dashesOfPrototype() {
+    if (!m_line.isDashed()) return m_prototype;
+    if (m_measure == Measure::whole) return m_dashes->measureWhole(m_prototype);
+    CZemVertexArray dashes;
+    const double start = m_prototype[0].m_start.x;
+    m_dashes->measure(m_prototype, m_uprightLo.x - start, m_uprightHi.x - start, dashes);
+    return dashes;
+}
+
+bool CZemHatchFamily::meetsContour(const CZemPoint3d& from, const CZemPoint3d& to) const {
+    const CZemVertexArray chord(CZemVertex(from, to, 0.0));
+    return m_regions[0].intersectWith(chord, 0).len() > 0;
+}
+
+// The chord of the dashed line runs from its first dash to its last; in the
+// window it is taken from the prototype, as the window lacks the far dashes.
+bool CZemHatchFamily::lineMeetsContour(const CZemVertexArray& w) const {
+    if (m_line.isDashed() && m_measure == Measure::window) {
+        const CZemVertex chord = m_dashes->chordOf(m_prototype);
+        return meetsContour(chord.m_start, chord.m_end);
+    }
+    return meetsContour(w[0].m_start, w[-1].m_end);
+}
+
+// The line's spans, its dashes cut to them, and once more clipped by the
+// contour alone (holes were already left out by the spans).
+CZemVertexArray CZemHatchFamily::piecesOf(const CZemVertexArray& w) const {
+    const CZemVertexArray spans = m_spans.spansOf(m_prototype);
+    CZemVertexArray pieces = m_line.isDashed() ? m_spans.clip(w, spans, m_prototype) : spans;
+    CZemVertexArray kept;
+    if (pieces.isEmpty()) return kept;
+    const CZemArrayTempl<CZemVertexArray> punched = ZEM::g_vl_punch(pieces, m_regions[0], true);
+    for (int k = 0; k < punched.len(); ++k) kept += punched[k];
+    return kept;
+}
