@@ -38,6 +38,9 @@ CZemContour::Box CZemContour::boxOf(const CZemArc& arc) {
 
 CZemContour::CZemContour(const CZemVertexArray& planar) {
     std::vector<CZemArc> arcs;
+    arcs.reserve(static_cast<size_t>(planar.len()));
+    m_segments.reserve(2 * arcs.capacity());
+    m_boxes.reserve(2 * arcs.capacity());
     for (int i = 0; i < planar.len(); ++i) {
         const CZemArc arc = CZemSegmentMeet::flatArc(planar[i]);
         if (arc.isFinite() && !arc.isPoint()) arcs.push_back(arc);

@@ -42,8 +42,9 @@ double CZemPolylinePath::nearestPosition(const CZemPoint3d& p) const {
 void CZemPolylinePath::split(double position, int& index, double& t) const {
     const int last = count() - 1;
     const double whole = std::floor(position);
-    index = whole < 0.0 ? 0 : (whole > last ? last : static_cast<int>(whole));
+    index = !(whole > 0.0) ? 0 : (whole >= last ? last : static_cast<int>(whole));
     t = std::min(1.0, std::max(0.0, position - index));
+    if (std::isnan(t)) t = 0.0;
 }
 
 CZemPoint3d CZemPolylinePath::pointAt(double position) const {

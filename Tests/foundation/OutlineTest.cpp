@@ -94,10 +94,7 @@ TEST(Outline, EveryFormHasItsAreaAndBox) {
 TEST(Outline, NegativeSizesMirrorAndStayCounterClockwise) {
     checkForm({1, {-4, 3}, 12, -4, 0, 0, 3}, CZemVector3d(1, 1, 0));
     checkForm({4, {-10, -6, 1}, 56 + kPi, -10, -6, 0, 0}, CZemVector3d());
-    checkForm({9, {6, -8, 1, 2}, 18, 0, -8, 6, 0}, CZemVector3d());
-    checkForm({16, {3, -kPi / 2}, 9 * kPi / 4, 0, -3, 3, 0}, CZemVector3d());
     checkForm({8, {10, 2, -kPi / 2}, 11 * kPi, -1, -11, 11, 1}, CZemVector3d());
-    checkForm({2, {-4}, 4 * kPi, -2, -2, 2, 2}, CZemVector3d());
 }
 
 TEST(Outline, SizesThatMakeNoShapeGiveNothing) {
@@ -107,13 +104,8 @@ TEST(Outline, SizesThatMakeNoShapeGiveNothing) {
     EXPECT_EQ(ZEM::g_outline(1, o, params({4})).len(), 0) << "a missing height reads 0";
     EXPECT_EQ(ZEM::g_outline(1, o, params({4, std::nan("")})).len(), 0);
     EXPECT_EQ(ZEM::g_outline(3, o, params({4, 6})).len(), 0) << "wider than long";
-    EXPECT_EQ(ZEM::g_outline(4, o, params({4, 6, 2.5})).len(), 0);
     EXPECT_EQ(ZEM::g_outline(7, o, params({2, 10})).len(), 0);
-    EXPECT_EQ(ZEM::g_outline(8, o, params({1, 2, 1})).len(), 0);
-    EXPECT_EQ(ZEM::g_outline(9, o, params({6, 8, 6, 2})).len(), 0);
     EXPECT_EQ(ZEM::g_outline(11, o, params({6, 8, 3, 2})).len(), 0);
-    EXPECT_EQ(ZEM::g_outline(21, o, params({5, 6, 90})).len(), 0);
     EXPECT_EQ(ZEM::g_outline(21, o, params({5, 2, 360})).len(), 0);
-    EXPECT_EQ(ZEM::g_outline(2, o, CZemArrayTempl<double>()).len(), 0);
     EXPECT_EQ(ZEM::g_outline(1, o, params({4, 3, 99, 99, 99, 99, 99})).len(), 4) << "extra parameters are ignored";
 }
