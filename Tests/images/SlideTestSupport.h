@@ -3,6 +3,8 @@
 #include "ZemSlideSink.h"
 
 #include <array>
+#include <cstdint>
+#include <cstring>
 #include <string>
 #include <utility>
 #include <vector>
@@ -50,6 +52,35 @@ private:
     bool m_highFirst;
     std::vector<unsigned char> m_bytes;
 };
+
+// One slide of a library: its name and bytes.
+struct Slide {
+    std::string name;
+    std::vector<unsigned char> bytes;
+};
+
+// A library of the given slides; terminated says whether the directory ends
+// with an empty entry; shift moves every stored offset.
+inline std::string library(const std::vector<Slide>& slides, bool terminated = true, long shift = 0)
+{
+    std::string out = "AutoCAD Slide Library 1.0\r\n\x1a";
+    out.resize(32, '\0');
+    std::uint32_t offset = static_cast<std::uint32_t>(32 + 36 * (slides.size() + (terminated ? 1 : 0)));
+    for (const Slide& slide : slides) {
+        std::string entry(36, '\0');
+        std::memcpy(&entry[0], slide.name.data(), slide.name.size());
+        const std::uint32_t stored = static_cast<std::uint32_t>(offset + shift);
+        for (int i = 0; i < 4; ++i)
+            entry[32 + i] = static_cast<char>(stored >> (8 * i) & 0xFF);
+        out += entry;
+        offset += static_cast<std::uint32_t>(slide.bytes.size());
+    }
+    if (terminated)
+        out += std::string(36, '\0');
+    for (const Slide& slide : slides)
+        out.append(slide.bytes.begin(), slide.bytes.end());
+    return out;
+}
 
 // Keeps everything a decoding reports, in order.
 class RecordingSink : public CZemSlideSink {
