@@ -1,5 +1,19 @@
 #include "ZemGDX.h"
 
+#include "ZemApp.h"
+#include "ZemConfig.h"
+
+CZemGDX::CZemGDX() {
+    m_backColor.setOleColor(zemAppPtr()->backgroundColor());
+    if (const CZemDataItem* size = ZEM::cfg_get(L"KAL_MENU\\COLOR\\PDSIZE")) size->get(m_pdSize, nullptr);
+    if (const CZemDataItem* style = ZEM::cfg_get(L"KAL_MENU\\COLOR\\PDMODE")) style->get(m_pdMode, nullptr);
+    for (int mode = 1; mode <= 5; ++mode) {
+        CZemColor color;
+        ZEM::color_from_cfg(color, ZEM::cfg_get(kZemGdxColorKeys[mode - 1]));
+        ColorTabSet(static_cast<GDX_CMODE>(mode), color);
+    }
+}
+
 CZemGDX::CZemGDX(const CZemColor& back, const CZemMatrix3d& proj, double pdSize, unsigned long pdMode,
                  const CZemPoint3d& viewMin, const CZemPoint3d& viewMax)
     : m_backColor(back), m_pdSize(pdSize), m_pdMode(pdMode), m_projMtx(proj), m_extViewMin(viewMin),

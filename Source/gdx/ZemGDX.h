@@ -19,6 +19,10 @@
 // behind the end reads one shared default item.
 class CZemGDX {
 public:
+    // Background from the application object; point size and style and the
+    // colour table entries 1 to 5 from the configuration (KAL_MENU\COLOR\...).
+    // A point size or style missing there is 0.
+    CZemGDX();
     // Reads no configuration; the colour table stays empty.
     CZemGDX(const CZemColor& back, const CZemMatrix3d& proj, double pdSize, unsigned long pdMode,
             const CZemPoint3d& viewMin, const CZemPoint3d& viewMax);

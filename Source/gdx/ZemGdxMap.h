@@ -46,3 +46,10 @@ int gdxMapKeyNew();
 void gdxMapSetAt(int key, CZemGDX& gdx);
 CZemGDX* getGdxFromMap(int key);
 bool gdxMapRemoveAt(int key);
+// Makes a list from stored settings (a directory with the optional keys
+// PDSIZE and PDMODE as int, EXTVIEW two corners, MTX the projection, COLOR,
+// RGB and TBL the background) and the configuration colours, and stores it
+// under a new key; the key, or -1 if it cannot be stored. Point size and
+// style missing from the settings come from the configuration, else 0. A
+// null or non-directory argument reads no settings.
+int createGdxInMap(CZemDataItem* settings);

@@ -53,3 +53,9 @@ enum ZemGdxProp {
 
 // The colour mode held in a flags word.
 inline int zem_gdx_cmode(unsigned long flags) { return static_cast<int>((flags >> 8) & 15); }
+
+// Configuration keys of the colours of new lists: colour table entries 1 to 5
+// (index mode - 1), then the background.
+inline constexpr const wchar_t* kZemGdxColorKeys[6] = {
+    L"KAL_MENU\\COLOR\\HIGHLIGHT", L"KAL_MENU\\COLOR\\REFER", L"KAL_MENU\\COLOR\\AXIS",
+    L"KAL_MENU\\COLOR\\BASE",      L"KAL_MENU\\COLOR\\AUX",   L"KAL_MENU\\COLOR\\BACKGROUND"};

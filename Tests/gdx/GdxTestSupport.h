@@ -19,29 +19,29 @@ inline CZemVertexArray segment(const CZemPoint3d& a, const CZemPoint3d& b) {
     return CZemVertexArray(CZemVertex(a, b, 0.0));
 }
 
-// A closed straight polygon through the corners.
-inline CZemVertexArray polygon(std::initializer_list<CZemPoint3d> corners) {
+inline CZemVertexArray square(double x0, double y0, double x1, double y1) {
+    const CZemPoint3d c[] = {{x0, y0, 0}, {x1, y0, 0}, {x1, y1, 0}, {x0, y1, 0}};
     CZemVertexArray vl;
-    const CZemPoint3d* p = corners.begin();
-    const int n = static_cast<int>(corners.size());
-    for (int k = 0; k < n; ++k) vl.append(CZemVertex(p[k], p[(k + 1) % n], 0.0));
+    for (int k = 0; k < 4; ++k) vl.append(CZemVertex(c[k], c[(k + 1) % 4], 0.0));
     return vl;
 }
 
-inline CZemVertexArray square(double x0, double y0, double x1, double y1) {
-    return polygon({{x0, y0, 0}, {x1, y0, 0}, {x1, y1, 0}, {x0, y1, 0}});
+inline CZemArrayTempl<CZemVertexArray> region(std::initializer_list<CZemVertexArray> contours) {
+    CZemArrayTempl<CZemVertexArray> regl;
+    for (const CZemVertexArray& c : contours) regl.append(c);
+    return regl;
 }
 
 inline CZemColor indexColor(int index) { return CZemColor().setColorIndex(index); }
 
-// A list that reads no configuration: identity projection, no view extents.
+// A list that reads no configuration: point size 2, style 3.
 inline CZemGDX newList(const CZemMatrix3d& proj = CZemMatrix3d()) {
     return CZemGDX(indexColor(7), proj, 2.0, 3, CZemPoint3d(), CZemPoint3d());
 }
 
 inline void addLine(CZemGDX& g, const CZemArrayTempl<int>& stack, const CZemPoint3d& a, const CZemPoint3d& b,
-                    unsigned long flags = 0, const CZemMatrix3d& mtx = CZemMatrix3d()) {
-    g.imageVl(stack, flags, segment(a, b), indexColor(1), mtx, CZemArrayTempl<double>(), 1.0, 1);
+                    unsigned long flags = 0) {
+    g.imageVl(stack, flags, segment(a, b), indexColor(1), CZemMatrix3d(), CZemArrayTempl<double>(), 1.0, 1);
 }
 
 inline void addPoint(CZemGDX& g, const CZemArrayTempl<int>& stack, const CZemPoint3d& p, unsigned long flags = 0,
@@ -52,12 +52,6 @@ inline void addPoint(CZemGDX& g, const CZemArrayTempl<int>& stack, const CZemPoi
 inline void addRegion(CZemGDX& g, const CZemArrayTempl<int>& stack, const CZemArrayTempl<CZemVertexArray>& regl,
                       unsigned long flags = 0, const CZemMatrix3d& mtx = CZemMatrix3d()) {
     g.imageReg(stack, flags, regl, indexColor(3), mtx, CZemArrayTempl<double>(), 1.0, 1, indexColor(4));
-}
-
-inline CZemArrayTempl<CZemVertexArray> region(std::initializer_list<CZemVertexArray> contours) {
-    CZemArrayTempl<CZemVertexArray> regl;
-    for (const CZemVertexArray& c : contours) regl.append(c);
-    return regl;
 }
 
 inline void expectPoint(const CZemPoint3d& actual, double x, double y, double z, double tolerance = 1e-9) {
