@@ -3,8 +3,10 @@
 #include "AfxWin.h"
 #include "CDynLinkLibrary.h"
 #include "CWnd.h"
+#include "ZemConfig.h"
 #include "ZemModuleStateGuard.h"
 
+#include <cwchar>
 #include <new>
 
 namespace {
@@ -38,7 +40,16 @@ void detachProcess() {
 
 CZemMfcApp::CZemMfcApp() : CWinApp(L"Zem_Mfc") {}
 
-BOOL CZemMfcApp::InitInstance() { return CWinApp::InitInstance(); }
+// The configuration file zem.cfg is looked for beside the library.
+BOOL CZemMfcApp::InitInstance() {
+    wchar_t path[MAX_PATH];
+    const DWORD length = GetModuleFileNameW(m_hInstance, path, MAX_PATH);
+    if (length > 0 && length < MAX_PATH) {
+        if (wchar_t* slash = wcsrchr(path, L'\\')) *slash = 0;
+        ZEM::cfgLibraryDirSet(path);
+    }
+    return CWinApp::InitInstance();
+}
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
