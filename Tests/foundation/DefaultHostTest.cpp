@@ -1,6 +1,5 @@
 #include "ZemDataAccess.h"
 #include "ZemDefaultHost.h"
-#include "ZemResbuf.h"
 #include "ZemResbufRead.h"
 #include "ZemSmartResbuf.h"
 
@@ -9,16 +8,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-class DefaultHost : public ::testing::Test {
-protected:
-    void SetUp() override { datatest::resetConfiguration(); }
-    void TearDown() override {
-        datatest::resetConfiguration();
-        zemAppSet(nullptr);
-    }
-    static CZemDataItem* root() { return ZEM::cfg_dir_make(L""); }
-};
 
 // An application object of its own, as applications install one.
 class OwnApp : public CZemApp {
@@ -30,79 +19,65 @@ public:
     int invokeHost(const wchar_t*, resbuf*, resbuf**) override { return ZEM::RTNORM; }
 };
 
-CZemGDX* const kSomeList = reinterpret_cast<CZemGDX*>(0x1000);
 int g_drawerCalls = 0;
 
-bool drawer(CZemGDX* gdx, CZemDataItem* source, CZemDataItem*) {
-    ++g_drawerCalls;
-    return gdx == kSomeList && source != nullptr;
-}
+bool drawer(CZemGDX*, CZemDataItem*, CZemDataItem*) { return ++g_drawerCalls > 0; }
+
+void setConfig(const wchar_t* key, int value) { ZEM::dataItemSet(ZEM::cfg_dir_make(L""), &CZemDataKey().set(key), value); }
 
 }  // namespace
 
-TEST_F(DefaultHost, TheInstalledApplicationOrTheDefaultHostAnswers) {
-    ASSERT_EQ(&CZemDefaultHost::instance(), zemAppPtr());
-    OwnApp own;
-    EXPECT_EQ(nullptr, zemAppSet(&own));
-    EXPECT_EQ(&own, zemAppPtr());
-    EXPECT_EQ(Zem::formatArchitectural, zemAppPtr()->numberFormat());
-    EXPECT_EQ(&own, zemAppSet(nullptr));
-    EXPECT_EQ(&CZemDefaultHost::instance(), zemAppPtr());
-}
-
-TEST_F(DefaultHost, NumberFormatAndBackgroundFromTheConfiguration) {
+TEST(DefaultHost, AnswersFromTheConfigurationUnlessAnApplicationIsInstalled) {
+    datatest::resetConfiguration();
     CZemApp* app = zemAppPtr();
+    ASSERT_EQ(&CZemDefaultHost::instance(), app);
     EXPECT_EQ(Zem::formatDecimal, app->numberFormat());
     EXPECT_EQ(0xFFFFFFUL, app->backgroundColor());
-    ZEM::dataItemSet(root(), &CZemDataKey().set(L"LUNITS"), 4);
-    ZEM::dataItemSet(root(), &CZemDataKey().set(L"KAL_MENU\\COLOR\\BACKGROUND"), L"255,0,0");
+    setConfig(L"LUNITS", 4);
+    ZEM::dataItemSet(ZEM::cfg_dir_make(L""), &CZemDataKey().set(L"KAL_MENU\\COLOR\\BACKGROUND"), L"255,0,0");
     EXPECT_EQ(Zem::formatArchitectural, app->numberFormat());
     EXPECT_EQ(0x0000FFUL, app->backgroundColor()) << "red in the low byte of a Windows colour";
-    ZEM::dataItemSet(root(), &CZemDataKey().set(L"LUNITS"), 9);
-    ZEM::dataItemSet(root(), &CZemDataKey().set(L"KAL_MENU\\COLOR\\BACKGROUND"), 5);
+    setConfig(L"LUNITS", 9);
+    setConfig(L"KAL_MENU\\COLOR\\BACKGROUND", 5);
     EXPECT_EQ(Zem::formatDecimal, app->numberFormat()) << "a format out of range";
-    CZemColor blue;
-    blue.setColorIndex(5);
-    EXPECT_EQ(blue.oleColor(), app->backgroundColor());
+    EXPECT_EQ(CZemColor().setColorIndex(5).oleColor(), app->backgroundColor());
+
+    OwnApp own;
+    EXPECT_EQ(nullptr, zemAppSet(&own));
+    EXPECT_EQ(Zem::formatArchitectural, zemAppPtr()->numberFormat());
+    EXPECT_EQ(&own, zemAppSet(nullptr));
+    EXPECT_EQ(app, zemAppPtr());
+    datatest::resetConfiguration();
 }
 
-TEST_F(DefaultHost, HostFunctionsByNameOwnTheirAnswerUntilItIsGiven) {
+TEST(DefaultHost, HostFunctionsByNameAndTheHookedDrawer) {
     CZemDefaultHost& host = CZemDefaultHost::instance();
-    const ZEM::CSmartResbuf arguments(ZEM::mkResbuf(2.5, ZEM::RTREAL));
+    const ZEM::CSmartResbuf two(ZEM::mkResbuf(2.5, ZEM::RTREAL)), minus(ZEM::mkResbuf(-1.0, ZEM::RTREAL));
     resbuf* result = reinterpret_cast<resbuf*>(&host);
-    EXPECT_EQ(ZEM::RTERROR, host.invokeHost(L"zem_twice", arguments, &result));
+    EXPECT_EQ(ZEM::RTERROR, host.invokeHost(L"zem_twice", two, &result));
     EXPECT_EQ(nullptr, result) << "an unknown function";
-
     host.hostFunctionSet(L"ZEM_TWICE", [](const resbuf* in, resbuf** out) {
         double value = 0.0;
-        if (!ZEM::rbRead(in, value)) return static_cast<int>(ZEM::RTERROR);
+        ZEM::rbRead(in, value);
         *out = ZEM::mkResbuf(2 * value, ZEM::RTREAL);
         return static_cast<int>(value > 0 ? ZEM::RTNORM : ZEM::RTERROR);
     });
-    EXPECT_TRUE(host.hostFunctionHas(L"zem_Twice"));
-    ASSERT_EQ(ZEM::RTNORM, host.invokeHost(L"zem_twice", arguments, &result));
-    ASSERT_NE(nullptr, result);
+    ASSERT_EQ(ZEM::RTNORM, host.invokeHost(L"zem_Twice", two, &result)) << "names ignore case";
     EXPECT_DOUBLE_EQ(5.0, result->resval.rreal);
     zemRelRb(result);
-    EXPECT_EQ(ZEM::RTNORM, host.invokeHost(L"zem_twice", arguments, nullptr)) << "the answer is freed";
-    const ZEM::CSmartResbuf negative(ZEM::mkResbuf(-1.0, ZEM::RTREAL));
-    EXPECT_EQ(ZEM::RTERROR, host.invokeHost(L"zem_twice", negative, &result));
+    EXPECT_EQ(ZEM::RTNORM, host.invokeHost(L"zem_twice", two, nullptr)) << "an answer nobody takes is freed";
+    EXPECT_EQ(ZEM::RTERROR, host.invokeHost(L"zem_twice", minus, &result));
     EXPECT_EQ(nullptr, result) << "a failing call hands out nothing";
     host.hostFunctionSet(L"zem_twice", nullptr);
     EXPECT_FALSE(host.hostFunctionHas(L"ZEM_TWICE"));
-    EXPECT_EQ(ZEM::RTERROR, host.invokeHost(nullptr, nullptr, &result));
-}
 
-TEST_F(DefaultHost, StoredObjectsAreDrawnByTheHookedDrawer) {
-    CZemDefaultHost& host = CZemDefaultHost::instance();
     const CZemDefaultHost::ObjectImage before = host.objectImageSet(nullptr);
-    CZemDataItem source(CZemDataItem::typeDir);
-    EXPECT_FALSE(host.imageObject(kSomeList, &source, nullptr)) << "nothing draws without a drawer";
+    CZemGDX* list = reinterpret_cast<CZemGDX*>(&host);
+    CZemDataItem source;
+    EXPECT_FALSE(host.imageObject(list, &source, nullptr)) << "nothing draws without a drawer";
     host.objectImageSet(&drawer);
-    g_drawerCalls = 0;
-    EXPECT_TRUE(host.imageObject(kSomeList, &source, nullptr));
-    EXPECT_FALSE(host.imageObject(nullptr, &source, nullptr));
-    EXPECT_FALSE(host.imageObject(kSomeList, nullptr, nullptr));
-    EXPECT_EQ(1, g_drawerCalls) << "no list or no object: the drawer is not asked";
+    EXPECT_TRUE(host.imageObject(list, &source, nullptr));
+    EXPECT_FALSE(host.imageObject(nullptr, &source, nullptr) || host.imageObject(list, nullptr, nullptr));
+    EXPECT_EQ(1, g_drawerCalls) << "without a list or an object the drawer is not asked";
     EXPECT_EQ(&drawer, host.objectImageSet(before));
 }

@@ -1,5 +1,4 @@
 #include "ZemDataAccess.h"
-#include "ZemDataDir.h"
 #include "ZemDataIterator.h"
 #include "ZemMessages.h"
 #include "ZemOutline.h"
@@ -15,16 +14,10 @@
 
 namespace {
 
-CZemString text(const CZemDataItem* item, const CZemString& key) {
-    CZemString out;
-    ZEM::itemGet(item, key, out);
-    return out;
-}
-
-int number(const CZemDataItem* item, const CZemString& key, int missing) {
-    int out = missing;
-    ZEM::itemGet(item, key, out);
-    return out;
+template <class T>
+T read(const CZemDataItem* item, const CZemString& key, T value) {
+    ZEM::itemGet(item, key, value);
+    return value;
 }
 
 CZemString parm(int n, const wchar_t* key) { return CZemString().format(L"PARM%d\\%s", n, key); }
@@ -38,98 +31,74 @@ double defaultValue(const CZemDataItem* entry, int n, int range) {
 
 }  // namespace
 
-TEST(OutlineCatalogue, HasEveryKeyTheOutlineDialogReads) {
+TEST(OutlineCatalogue, HasEveryKeyTheOutlineDialogReadsWithDefaultsThatMakeOutlines) {
     CZemDataItem catalogue;
     ASSERT_FALSE(zemOutlineInit(nullptr));
     ASSERT_TRUE(zemOutlineInit(&catalogue));
-    ASSERT_TRUE(catalogue.isDir());
-    ASSERT_EQ(21, catalogue.getDir()->len()) << "the forms of ZEM::g_outline";
-    int expectedId = 1;
+    int id = 1;
     CZemDataIterator it(&catalogue);
-    for (it.start(); !it.done(); it.next(), ++expectedId) {
-        CZemDataItem* entry = it.item();
-        EXPECT_EQ(ZEM::RTSHORT, entry->key().type()) << "outline numbers are integer keys";
-        EXPECT_EQ(expectedId, static_cast<long>(entry->key()));
-        EXPECT_NE(0, number(entry, L"CODE", 0) & 15) << expectedId;
-        EXPECT_EQ(CZemString().format(L"ZEM_OUTL_%04d", 10 + expectedId), text(entry, L"LABEL"));
-        EXPECT_EQ(3, number(entry, L"TXTGEN", -1));
-        const int count = number(entry, L"PARMS", -1);
-        ASSERT_GE(count, 1);
-        ASSERT_LE(count, 6) << "the dialog has six fields";
-        EXPECT_EQ(nullptr, entry->get(&CZemDataKey().set(CZemString().format(L"PARM%d", count + 1))));
+    for (it.start(); !it.done(); it.next(), ++id) {
+        const CZemDataItem* entry = it.item();
+        EXPECT_EQ(ZEM::RTSHORT, entry->key().type()) << "outlines stand under integer keys, in order";
+        ASSERT_EQ(id, static_cast<long>(entry->key()));
+        EXPECT_NE(0, read(entry, L"CODE", 0) & 15) << id;
+        EXPECT_EQ(CZemString().format(L"ZEM_OUTL_%04d", 10 + id), read(entry, L"LABEL", CZemString()));
+        EXPECT_EQ(3, read(entry, L"TXTGEN", 0));
+        const int count = read(entry, L"PARMS", 0);
+        ASSERT_TRUE(count >= 1 && count <= 6) << "the dialog has six fields";
+        EXPECT_EQ(nullptr, it->get(&CZemDataKey().set(CZemString().format(L"PARM%d", count + 1))));
         for (int n = 1; n <= count; ++n) {
-            EXPECT_FALSE(text(entry, parm(n, L"LABEL")).isEmpty()) << expectedId << " " << n;
-            EXPECT_NE(0, number(entry, parm(n, L"VALID"), 0) & 1) << "a value is required";
-            const CZemString type = text(entry, parm(n, L"TYPE"));
-            EXPECT_TRUE(type == L"L" || type == L"A" || type == L"N") << expectedId << " " << n;
-            for (int range = 1; range <= 4; ++range) {
-                const double ratio = defaultValue(entry, n, range) / defaultValue(entry, n, 1);
-                const double growth = type == L"L" ? std::pow(10.0, range - 1) : 1.0;
-                if (defaultValue(entry, n, 1) != 0) {
-                    EXPECT_DOUBLE_EQ(growth, ratio) << "lengths grow tenfold";
-                }
-            }
-            CZemDataIterator words(entry->get(&CZemDataKey().set(parm(n, L"KWORD"))));
-            for (words.start(); !words.done(); words.next()) {
-                EXPECT_EQ(ZEM::RTSTR, words->key().type());
-                double value = 0.0;
-                EXPECT_TRUE(words->get(value, nullptr));
-            }
+            const CZemString type = read(entry, parm(n, L"TYPE"), CZemString());
+            EXPECT_TRUE(type == L"L" || type == L"A" || type == L"N") << id << " " << n;
+            EXPECT_FALSE(read(entry, parm(n, L"LABEL"), CZemString()).isEmpty());
+            EXPECT_NE(0, read(entry, parm(n, L"VALID"), 0) & 1) << "a value is required";
+            for (int range = 2; range <= 4 && defaultValue(entry, n, 1) != 0; ++range)
+                EXPECT_DOUBLE_EQ(type == L"L" ? std::pow(10.0, range - 1) : 1.0,
+                                 defaultValue(entry, n, range) / defaultValue(entry, n, 1)) << "lengths grow tenfold";
         }
-    }
-}
-
-TEST(OutlineCatalogue, DefaultsMakeOutlinesInEveryRangeAndSignsMirrorThem) {
-    CZemDataItem catalogue;
-    zemOutlineInit(&catalogue);
-    CZemDataIterator it(&catalogue);
-    for (it.start(); !it.done(); it.next()) {
-        const int id = static_cast<int>(static_cast<long>(it->key()));
-        const int count = number(it.item(), L"PARMS", 0);
         for (int range = 1; range <= 4; ++range) {
             CZemArrayTempl<double> values;
-            for (int n = 1; n <= count; ++n) values.append(defaultValue(it.item(), n, range));
-            const CZemVertexArray outline = ZEM::g_outline(id, CZemVector3d(), values);
-            EXPECT_TRUE(outline.isClosed() && !outline.isEmpty()) << id << " range " << range;
-            CZemPoint3d low, high;
-            ASSERT_TRUE(outline.extents(low, high));
+            for (int n = 1; n <= count; ++n) values.append(defaultValue(entry, n, range));
+            EXPECT_TRUE(ZEM::g_outline(id, CZemVector3d(), values).isClosed()) << id << " range " << range;
             for (int n = 1; n <= count; ++n) {
                 if (!it->get(&CZemDataKey().set(parm(n, L"MINUSP")))) continue;
-                CZemArrayTempl<double> mirrored = values;
-                mirrored[n - 1] = -mirrored[n - 1];
-                EXPECT_FALSE(ZEM::g_outline(id, CZemVector3d(), mirrored).isEmpty()) << id << " negative " << n;
+                CZemArrayTempl<double> negative = values;
+                negative[n - 1] = -negative[n - 1];
+                EXPECT_TRUE(ZEM::g_outline(id, CZemVector3d(), negative).isClosed()) << id << " sign of " << n;
             }
         }
     }
+    EXPECT_EQ(22, id) << "the 21 forms of ZEM::g_outline";
     CZemArrayTempl<double> size;
     size.append(defaultValue(catalogue.get(&CZemDataKey().appendNumber(1)), 1, 3));
     size.append(defaultValue(catalogue.get(&CZemDataKey().appendNumber(1)), 2, 3));
     CZemPoint3d low, high;
     ZEM::g_outline(1, CZemVector3d(), size).extents(low, high);
-    EXPECT_DOUBLE_EQ(100.0, high.x - low.x) << "the rectangle of range 3 is 100 by 50";
-    EXPECT_DOUBLE_EQ(50.0, high.y - low.y);
+    EXPECT_TRUE(CZemVector3d(100, 50, 0) == high - low) << "the rectangle of range 3";
+    double half = 0.0;
+    const CZemDataKey word = CZemDataKey().appendNumber(16).appendString(L"PARM2").appendString(L"KWORD").appendString(L"Halbkreis");
+    ASSERT_TRUE(catalogue.get(half, &word));
+    EXPECT_DOUBLE_EQ(M_PI, half) << "the sweep of a sector has words";
 }
 
 TEST(OutlineCatalogue, EveryMessageKeyHasItsTextInGermanAndEnglish) {
     datatest::resetConfiguration();
     const std::wstring resources = datatest::widen(std::string(ZEM_SOURCE_DIR) + "/Source/resources");
     ZEM::dataItemSet(ZEM::cfg_dir_make(L""), &CZemDataKey().set(L"SUPPORT"), resources.c_str());
-    CZemDataItem catalogue(CZemDataItem::typeDir);
-    ASSERT_TRUE(zemOutlineInit(&catalogue));
+    CZemDataItem catalogue;
+    zemOutlineInit(&catalogue);
     int keys = 0;
     CZemDataIterator it(&catalogue);
     for (it.start(); !it.done(); it.next()) {
         CZemArrayTempl<CZemString> used;
-        used.append(text(it.item(), L"LABEL"));
-        for (int n = 1; n <= number(it.item(), L"PARMS", 0); ++n) {
-            used.append(text(it.item(), parm(n, L"LABEL")));
-            if (!text(it.item(), parm(n, L"MINUSP")).isEmpty()) used.append(text(it.item(), parm(n, L"MINUSP")));
+        used.append(read(it.item(), L"LABEL", CZemString()));
+        for (int n = 1; n <= read(it.item(), L"PARMS", 0); ++n) {
+            used.append(read(it.item(), parm(n, L"LABEL"), CZemString()));
+            used.append(read(it.item(), parm(n, L"MINUSP"), used[0]));
         }
         for (int k = 0; k < used.len(); ++k, ++keys) {
-            for (const wchar_t* language : {L"DEU", L"ENU"}) {
-                CZemString message;
-                EXPECT_TRUE(ZEM::msgFind(L"ZEM_", used[k], language, message)) << used[k] << " " << language;
-            }
+            CZemString text;
+            EXPECT_TRUE(ZEM::msgFind(L"ZEM_", used[k], L"DEU", text) && ZEM::msgFind(L"ZEM_", used[k], L"ENU", text)) << used[k];
         }
     }
     EXPECT_GT(keys, 60);
