@@ -10,6 +10,13 @@ constexpr double kDistTol = 1e-8;
 // A bulge of smaller magnitude than this is a straight segment.
 constexpr double kBulgeTol = 1e-12;
 
+// A unit normal whose x and y are both below this lies along the Z axis.
+constexpr double kAxisTol = 1e-12;
+
+// Two lines are parallel when the cross product of their directions is below
+// this fraction of the product of their lengths.
+constexpr double kParallelTol = 1e-15;
+
 // The most chords one arc is flattened into, whatever the tolerance asked.
 constexpr int kMaxChords = 100000;
 

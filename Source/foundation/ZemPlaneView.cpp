@@ -1,5 +1,7 @@
 #include "ZemPlaneView.h"
 
+#include "ZemGeomTolerance.h"
+
 #include <cmath>
 
 CZemPlaneView::CZemPlaneView(const CZemVertexArray& list) : CZemPlaneView(list, list.normal()) {}
@@ -24,5 +26,6 @@ CZemVertexArray& CZemPlaneView::toWorld(CZemVertexArray& planarList) const {
 bool CZemPlaneView::isZAxis(const CZemVector3d& normal) {
     const double length = normal.abs();
     if (!(length > 0.0)) return true;
-    return std::fabs(normal.x) <= 1e-12 * length && std::fabs(normal.y) <= 1e-12 * length && normal.z > 0.0;
+    return std::fabs(normal.x) <= ZEM::kAxisTol * length && std::fabs(normal.y) <= ZEM::kAxisTol * length &&
+           normal.z > 0.0;
 }

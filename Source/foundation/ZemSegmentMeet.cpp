@@ -32,7 +32,7 @@ void CZemSegmentMeet::addLineLine() {
     const double rx = m_a.end().x - m_a.start().x, ry = m_a.end().y - m_a.start().y;
     const double sx = m_b.end().x - m_b.start().x, sy = m_b.end().y - m_b.start().y;
     const double den = rx * sy - ry * sx;
-    if (std::fabs(den) <= 1e-15 * std::hypot(rx, ry) * std::hypot(sx, sy)) return;
+    if (std::fabs(den) <= ZEM::kParallelTol * std::hypot(rx, ry) * std::hypot(sx, sy)) return;
     const double qx = m_b.start().x - m_a.start().x, qy = m_b.start().y - m_a.start().y;
     const double t = (qx * sy - qy * sx) / den;
     addCandidate(m_a.start().x + t * rx, m_a.start().y + t * ry);

@@ -67,7 +67,7 @@ CZemVertexArray& CZemVertexArray::transformBy(const double (*m)[4]) {
     const CZemVector3d v = CZemVector3d(f[0][1], f[1][1], f[2][1]) * m;
     CZemVector3d n = u * v;
     if (!isFiniteVector(n) || n.normalize().abs() == 0.0) return *this;
-    if (std::fabs(n.x) <= 1e-12 && std::fabs(n.y) <= 1e-12 && n.z < 0.0) {
+    if (std::fabs(n.x) <= ZEM::kAxisTol && std::fabs(n.y) <= ZEM::kAxisTol && n.z < 0.0) {
         n = CZemVector3d::kZAxis;
         for (int k = 0; k < len(); ++k) {
             if (m_items[k].m_bulge != 0.0) m_items[k].m_bulge = -m_items[k].m_bulge;
