@@ -1,0 +1,253 @@
+#include "CBitmap.h"
+#include "CClientDC.h"
+#include "SlideTestSupport.h"
+#include "SlideWindow.h"
+#include "ZemGdiCount.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string>
+
+using slidetest::SlideBuilder;
+
+namespace {
+
+constexpr COLORREF kRed = RGB(255, 0, 0);
+constexpr COLORREF kGreen = RGB(0, 255, 0);
+constexpr COLORREF kBlue = RGB(0, 0, 255);
+constexpr COLORREF kWhite = RGB(255, 255, 255);
+constexpr COLORREF kBlack = RGB(0, 0, 0);
+
+const std::wstring kSlides = L"" ZEM_TESTDATA_DIR "/slides/";
+
+// A raster of 100 by 50 dots: a green square from (10, 10) to (40, 40), then
+// a red vertical vector at x = 50 over the whole height.
+std::vector<unsigned char> squareAndLine()
+{
+    SlideBuilder slide;
+    slide.header(2, 100, 50).color(3);
+    slide.fillRecord(4, -1).fillRecord(10, 10).fillRecord(40, 10).fillRecord(40, 40).fillRecord(10, 40);
+    slide.fillRecord(0, -1).color(1).vector(50, 0, 50, 50).end();
+    return slide.bytes();
+}
+
+// A white vector from (0, 25) to (100, 25) of a 100 by 50 raster.
+std::vector<unsigned char> whiteLine() { return SlideBuilder().header(2, 100, 50).color(7).vector(0, 25, 100, 25).end().bytes(); }
+
+struct Records {
+    std::map<DWORD, int> counts;
+    std::vector<COLORREF> penColors;
+    std::vector<DWORD> selected;
+};
+
+int CALLBACK collect(HDC, HANDLETABLE*, const ENHMETARECORD* record, int, LPARAM data)
+{
+    Records& records = *reinterpret_cast<Records*>(data);
+    records.counts[record->iType]++;
+    if (record->iType == EMR_CREATEPEN)
+        records.penColors.push_back(reinterpret_cast<const EMRCREATEPEN*>(record)->lopn.lopnColor);
+    if (record->iType == EMR_SELECTOBJECT)
+        records.selected.push_back(reinterpret_cast<const EMRSELECTOBJECT*>(record)->ihObject);
+    return 1;
+}
+
+Records recordsOf(HENHMETAFILE metafile)
+{
+    Records records;
+    EnumEnhMetaFile(nullptr, metafile, collect, &records, nullptr);
+    return records;
+}
+
+// The metafile played at about its own size onto white paper; the colour at (x, y).
+COLORREF playedPixel(HENHMETAFILE metafile, int x, int y)
+{
+    ENHMETAHEADER header = {};
+    GetEnhMetaFileHeader(metafile, sizeof header, &header);
+    const RECT bounds = {header.rclBounds.left, header.rclBounds.top, header.rclBounds.right + 1,
+                         header.rclBounds.bottom + 1};
+    CClientDC screen(nullptr);
+    CDC memory;
+    memory.CreateCompatibleDC(&screen);
+    CBitmap bitmap;
+    bitmap.CreateCompatibleBitmap(&screen, bounds.right, bounds.bottom);
+    const CZemDCSelect selected = memory.SelectObject(bitmap);
+    memory.FillSolidRect(0, 0, bounds.right, bounds.bottom, kWhite);
+    memory.PlayMetaFile(metafile, &bounds);
+    return memory.GetPixel(x, y);
+}
+
+}  // namespace
+
+// A window of 301 by 101 pixels fits the raster at 2 pixels a dot, 50 pixels
+// in from the left; one of 101 by 301 at 1 pixel a dot, 125 pixels down.
+TEST(ZemSlidePic, PaintsTheSlideCentredOnItsBackground)
+{
+    SlideWindow wide(301, 101);
+    wide.show(squareAndLine());
+    EXPECT_EQ(wide.pic().SetBkColor(5), 1);
+    wide.paint();
+    EXPECT_EQ(wide.pixel(100, 50), kGreen) << "inside the square";
+    EXPECT_EQ(wide.pixel(150, 10), kRed);
+    EXPECT_EQ(wide.pixel(150, 90), kRed);
+    EXPECT_EQ(wide.pixel(20, 50), kBlue) << "the background left of the raster";
+    EXPECT_EQ(wide.pixel(151, 50), kBlue);
+    long width = 0, height = 0;
+    ASSERT_TRUE(wide.pic().getSize(width, height));
+    EXPECT_EQ(width, 100);
+    EXPECT_EQ(height, 50);
+
+    wide.pic().SetBkColor(2);
+    EXPECT_FALSE(GetUpdateRect(wide.pic(), nullptr, FALSE)) << "the setter doesn't repaint";
+    EXPECT_EQ(wide.pic().BackColor(), 2);
+    wide.paint();
+    EXPECT_EQ(wide.pixel(20, 50), RGB(255, 255, 0));
+
+    SlideWindow tall(101, 301);
+    tall.show(squareAndLine());
+    tall.paint();
+    EXPECT_EQ(tall.pixel(50, 150), kRed);
+    EXPECT_EQ(tall.pixel(25, 150), kGreen);
+    EXPECT_EQ(tall.pixel(50, 100), kBlack) << "above the raster: the default background 0";
+    EXPECT_EQ(tall.pixel(50, 200), kBlack);
+}
+
+TEST(ZemSlidePic, AnEmptyControlPaintsTheButtonFace)
+{
+    SlideWindow window(60, 40);
+    window.pic().show(nullptr, 100);
+    window.paint();
+    EXPECT_EQ(window.pixel(30, 20), GetSysColor(COLOR_BTNFACE));
+    long width = 0, height = 0;
+    EXPECT_FALSE(window.pic().getSize(width, height));
+    EXPECT_FALSE(window.pic().show(nullptr, nullptr));
+}
+
+TEST(ZemSlidePic, WhiteOnAWhiteBackgroundDrawsBlack)
+{
+    SlideWindow window(101, 51);
+    window.show(whiteLine());
+    window.pic().SetBkColor(7);
+    window.paint();
+    EXPECT_EQ(window.pixel(50, 25), kBlack);
+    EXPECT_EQ(window.pixel(50, 10), kWhite);
+    window.pic().SetBkColor(1);
+    window.paint();
+    EXPECT_EQ(window.pixel(50, 25), kWhite);
+}
+
+TEST(ZemSlidePic, ATransparentControlDrawsOverWhatLiesBehind)
+{
+    SlideWindow window(101, 51, WS_EX_TRANSPARENT);
+    window.show(whiteLine());
+    window.paint();
+    const HDC dc = GetDC(window.pic());
+    const RECT all = {0, 0, 101, 51};
+    const HBRUSH magenta = CreateSolidBrush(RGB(255, 0, 255));
+    FillRect(dc, &all, magenta);
+    DeleteObject(magenta);
+    ReleaseDC(window.pic(), dc);
+    InvalidateRect(window.pic(), nullptr, FALSE);
+    window.pic().UpdateWindow();
+    EXPECT_EQ(window.pixel(50, 10), RGB(255, 0, 255));
+    EXPECT_EQ(window.pixel(50, 25), kWhite);
+}
+
+TEST(ZemSlidePic, AMetafileGoesOnWhitePaperWithNothingLeftSelected)
+{
+    SlideWindow window(101, 51);
+    std::vector<unsigned char> slide = whiteLine();
+    // Colour 1, vectors at y = 15 and 5.
+    slide.insert(slide.end() - 2, {0x01, 0xFF, 10, 0, 15, 0, 90, 0, 15, 0, 10, 0, 5, 0, 90, 0, 5, 0});
+    window.show(slide);
+    window.pic().SetBkColor(5);
+    const HENHMETAFILE metafile = window.pic().CreateEnhMetaFileW(CRect(0, 0, 101, 51));
+    ASSERT_NE(metafile, nullptr);
+    EXPECT_EQ(window.pic().BackColor(), 5) << "restored";
+    const Records records = recordsOf(metafile);
+    EXPECT_EQ(records.counts.count(EMR_RECTANGLE), 0u) << "no background";
+    EXPECT_EQ(records.counts.at(EMR_LINETO), 3);
+    EXPECT_EQ(records.penColors, (std::vector<COLORREF>{kBlack, kRed})) << "colour 7 draws black";
+    ASSERT_GE(records.selected.size(), 2u);
+    for (std::size_t i = records.selected.size() - 2; i < records.selected.size(); ++i)
+        EXPECT_NE(records.selected[i] & ENHMETA_STOCK_OBJECT, 0u) << "the context's own objects go back in";
+    EXPECT_EQ(playedPixel(metafile, 50, 25), kBlack);
+    EXPECT_EQ(playedPixel(metafile, 50, 30), kWhite);
+    // The frame in hundredths of millimetres maps back to pixels a little off.
+    EXPECT_TRUE(playedPixel(metafile, 50, 35) == kRed || playedPixel(metafile, 50, 36) == kRed);
+    DeleteEnhMetaFile(metafile);
+}
+
+TEST(ZemSlidePic, CopyPutsTheSlideOnTheClipboardInItsRasterSize)
+{
+    SlideWindow window(200, 100);
+    window.show(squareAndLine());
+    window.paint();
+    ASSERT_TRUE(window.pic().Copy());
+    ASSERT_TRUE(OpenClipboard(window.pic()));
+    const auto metafile = static_cast<HENHMETAFILE>(GetClipboardData(CF_ENHMETAFILE));
+    ASSERT_NE(metafile, nullptr);
+    ENHMETAHEADER header = {};
+    GetEnhMetaFileHeader(metafile, sizeof header, &header);
+    const Records records = recordsOf(metafile);
+    CloseClipboard();
+    EXPECT_EQ(records.counts.at(EMR_POLYGON16) + records.counts.count(EMR_POLYGON), 1);
+    EXPECT_EQ(records.counts.at(EMR_LINETO), 1);
+    // Fitted into 100 by 50 pixels, whose 99 by 49 units between pixel
+    // centres give 0.98 pixels a dot: the square's left side at 9.8, the
+    // vector at 49 from top to bottom.
+    EXPECT_EQ(header.rclBounds.left, 9);
+    EXPECT_EQ(header.rclBounds.right, 49);
+    EXPECT_EQ(header.rclBounds.top, 0);
+    EXPECT_EQ(header.rclBounds.bottom, 49);
+
+    window.pic().show(nullptr, 0);
+    ASSERT_TRUE(window.pic().Copy());
+    ASSERT_TRUE(OpenClipboard(window.pic()));
+    const Records empty = recordsOf(static_cast<HENHMETAFILE>(GetClipboardData(CF_ENHMETAFILE)));
+    CloseClipboard();
+    EXPECT_EQ(empty.counts.size(), 2u) << "header and end only";
+}
+
+TEST(ZemSlidePic, SlidesComeFromFilesLibrariesResourcesAndMemory)
+{
+    SlideWindow window(101, 51);
+    CZemSlidePic& pic = window.pic();
+    long width = 0, height = 0;
+    EXPECT_TRUE(pic.show((kSlides + L"velisp/slide_up.sld").c_str(), nullptr));
+    window.paint();
+    ASSERT_TRUE(pic.getSize(width, height));
+    EXPECT_EQ(width, 302);
+    EXPECT_TRUE(pic.show(L"sLiDe2", (kSlides + L"velisp/mylib.slb").c_str())) << "the last slide, in any case";
+    EXPECT_TRUE(pic.show(L"SLIDE1", (kSlides + L"velisp/mylib.slb").c_str()));
+    window.paint();
+    ASSERT_TRUE(pic.getSize(width, height));
+    EXPECT_EQ(width, 572);
+    EXPECT_FALSE(pic.show(L"SLIDE3", (kSlides + L"velisp/mylib.slb").c_str()));
+    EXPECT_FALSE(pic.getSize(width, height)) << "a failed load leaves the control empty";
+    EXPECT_FALSE(pic.show(L"SLIDE1", (kSlides + L"velisp/none.slb").c_str()));
+    EXPECT_FALSE(pic.show((kSlides + L"velisp/none.sld").c_str(), nullptr));
+    EXPECT_FALSE(pic.show(std::wstring(32, L'S').c_str(), (kSlides + L"velisp/mylib.slb").c_str()));
+
+    EXPECT_FALSE(pic.LoadSlide(101, L"SLIDE"));
+    ASSERT_TRUE(pic.LoadSlide(100, L"SLIDE"));
+    window.paint();
+    ASSERT_TRUE(pic.getSize(width, height));
+    EXPECT_EQ(width, 100);
+    EXPECT_EQ(height, 50);
+    EXPECT_EQ(window.pixel(50, 25), kRed) << "the resource's vector runs through the middle";
+    EXPECT_EQ(window.pixel(50, 10), kBlack);
+}
+
+TEST(ZemSlidePic, LeavesNoGdiObjectBehind)
+{
+    const int before = zemGdiObjectCount();
+    {
+        SlideWindow window(101, 51);
+        window.show(squareAndLine());
+        window.pic().SetBkColor(3);
+        window.paint();
+        DeleteEnhMetaFile(window.pic().CreateEnhMetaFileW(CRect(0, 0, 50, 50)));
+    }
+    EXPECT_EQ(zemGdiObjectCount(), before);
+}
