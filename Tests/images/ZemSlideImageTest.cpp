@@ -33,30 +33,11 @@ private:
 
 CZemGDX emptyList() { return CZemGDX(CZemColor(), CZemMatrix3d(), 1.0, 0, CZemPoint3d(), CZemPoint3d()); }
 
-CZemArrayTempl<int> path(std::initializer_list<int> elements)
-{
-    CZemArrayTempl<int> stack;
-    for (int e : elements)
-        stack.append(e);
-    return stack;
-}
-
-CZemArrayTempl<int> stackOf(const CZemGDX& gdx, int i)
+std::vector<int> stackOf(const CZemGDX& gdx, int i)
 {
     CZemArrayTempl<int> stack;
     gdx.itemStackGet(stack, i);
-    return stack;
-}
-
-bool sameStack(const CZemArrayTempl<int>& a, const CZemArrayTempl<int>& b)
-{
-    if (a.len() != b.len())
-        return false;
-    for (int i = 0; i < a.len(); ++i) {
-        if (a[i] != b[i])
-            return false;
-    }
-    return true;
+    return std::vector<int>(stack.data(), stack.data() + stack.len());
 }
 
 bool imageOf(const SlideBuilder& slide, CZemGDX& gdx, unsigned long flags = 0, const CZemDataItem* item = nullptr)
@@ -64,13 +45,6 @@ bool imageOf(const SlideBuilder& slide, CZemGDX& gdx, unsigned long flags = 0, c
     CZemSlideImage image;
     image.assign(slide.bytes().data(), static_cast<long>(slide.bytes().size()));
     return image.image(gdx, flags, item);
-}
-
-CZemVertex firstVertex(const CZemGDX& gdx, int i)
-{
-    CZemVertexArray vl;
-    gdx.geomGet(vl, i);
-    return vl[0];
 }
 
 }  // namespace
@@ -83,7 +57,7 @@ TEST(ZemSlideImage, TheEmptySlideIsOneHiddenPointAtTheOrigin)
         ASSERT_EQ(gdx.lenGet(), 1);
         EXPECT_EQ(gdx.typeGet(0), GDX_PT);
         EXPECT_EQ(gdx.flagGet(0), static_cast<unsigned long>(GDX_HIDE)) << "the caller's flags don't apply";
-        EXPECT_EQ(stackOf(gdx, 0).len(), 0);
+        EXPECT_TRUE(stackOf(gdx, 0).empty());
         CZemPoint3d point(1, 1, 1);
         gdx.geomGet(point, 0);
         EXPECT_TRUE(point == CZemPoint3d::kOrigin);
@@ -124,23 +98,24 @@ TEST(ZemSlideImage, ItemsAreNumberedUnderTheStackPathAndPlacedByTheMatrix)
     CZemDataItem item(CZemDataItem::typeDir);
     const CZemDataKey stackKey(L"STACK");
     const CZemDataKey mtxKey(L"MTX");
-    ZEM::dataItemSet(&item, &stackKey, path({3, 7}));
+    CZemArrayTempl<int> path;
+    ZEM::dataItemSet(&item, &stackKey, path.append(3).append(7));
     ZEM::dataItemSet(&item, &mtxKey, static_cast<const CZemMatrix3d::Cells&>(mtx));
     CZemGDX gdx = emptyList();
     ASSERT_TRUE(imageOf(slide, gdx, 0, &item));
     ASSERT_EQ(gdx.lenGet(), 4);
     for (int i = 0; i < 4; ++i) {
-        EXPECT_TRUE(sameStack(stackOf(gdx, i), path({3, 7, i + 1}))) << "item " << i;
+        EXPECT_EQ(stackOf(gdx, i), (std::vector<int>{3, 7, i + 1}));
         EXPECT_TRUE(gdx.mtxGet(i) == mtx) << "item " << i;
     }
     // One number instead of an array, and no item at all.
     ZEM::dataItemSet(&item, &stackKey, 5);
     CZemGDX single = emptyList();
     ASSERT_TRUE(imageOf(slide, single, 0, &item));
-    EXPECT_TRUE(sameStack(stackOf(single, 1), path({5, 2})));
+    EXPECT_EQ(stackOf(single, 1), (std::vector<int>{5, 2}));
     CZemGDX plain = emptyList();
     ASSERT_TRUE(imageOf(slide, plain));
-    EXPECT_TRUE(sameStack(stackOf(plain, 3), path({4})));
+    EXPECT_EQ(stackOf(plain, 3), std::vector<int>{4});
     EXPECT_TRUE(plain.mtxGet(0) == CZemMatrix3d::kIdentity);
 }
 
@@ -158,8 +133,9 @@ TEST(ZemSlideImage, VectorsKeepRasterCoordinatesAndColourIndices)
                                        {{5, 25, 0}, {-5, 45, 0}, 0.0}};
         const int colors[] = {0, 7, 250};
         for (int i = 0; i < 3; ++i) {
-            const CZemVertex vertex = firstVertex(gdx, i);
-            EXPECT_TRUE(vertex.m_start == expected[i].m_start && vertex.m_end == expected[i].m_end)
+            CZemVertexArray vl;
+            gdx.geomGet(vl, i);
+            EXPECT_TRUE(vl[0].m_start == expected[i].m_start && vl[0].m_end == expected[i].m_end)
                 << "item " << i << (highFirst ? " high byte first" : "");
             EXPECT_EQ(gdx.typeGet(i), GDX_VL);
             EXPECT_EQ(gdx.colorGet(i).colorIndex(), colors[i]) << "no exchange of 7 here";
