@@ -16,6 +16,8 @@
 
 namespace {
 
+const double kPi = std::acos(-1.0);
+
 class Object : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -68,7 +70,7 @@ TEST_F(Object, StoredOutlinesAndMachiningsInTheUnitAskedFor) {
     CZemDataItem machining(CZemDataItem::typeDir);
     machining.mkDir()->insert(&CZemDataKey().set(L"GEN"), outline(1, 10, 20, 4), 0);
     set(&machining, L"MOV", CZemVector3d(100, 0, 0));
-    set(&machining, L"ROT", M_PI / 2);
+    set(&machining, L"ROT", kPi / 2);
     set(&machining, L"SCAL", CZemPoint3d(-1, 1, 7));
     ASSERT_TRUE(zem_g_machining(vl, &machining, Zem::unitMillimeters));
     // [0,10] x [0,20] mirrored to [-10,0] x [0,20], turned a quarter to [-20,0] x [-10,0], moved by 100.

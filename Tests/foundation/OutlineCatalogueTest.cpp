@@ -14,6 +14,8 @@
 
 namespace {
 
+const double kPi = std::acos(-1.0);
+
 template <class T>
 T read(const CZemDataItem* item, const CZemString& key, T value) {
     ZEM::itemGet(item, key, value);
@@ -78,7 +80,7 @@ TEST(OutlineCatalogue, HasEveryKeyTheOutlineDialogReadsWithDefaultsThatMakeOutli
     double half = 0.0;
     const CZemDataKey word = CZemDataKey().appendNumber(16).appendString(L"PARM2").appendString(L"KWORD").appendString(L"Halbkreis");
     ASSERT_TRUE(catalogue.get(half, &word));
-    EXPECT_DOUBLE_EQ(M_PI, half) << "the sweep of a sector has words";
+    EXPECT_DOUBLE_EQ(kPi, half) << "the sweep of a sector has words";
 }
 
 TEST(OutlineCatalogue, EveryMessageKeyHasItsTextInGermanAndEnglish) {

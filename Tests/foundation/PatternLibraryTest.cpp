@@ -12,6 +12,8 @@
 
 namespace {
 
+const double kPi = std::acos(-1.0);
+
 using Lines = CZemPatternFile::Lines;
 using Stroke = std::vector<double>;  // x0, y0, x1, y1; a line without dashes: angle, distance
 
@@ -29,7 +31,7 @@ std::vector<Stroke> drawPattern(const Lines& lines, double low, double high) {
     const double size = high - low, centre = (low + high) / 2;
     for (int i = 0; i < lines.len(); ++i) {
         const CZemArrayTempl<double>& l = lines[i];
-        const double ux = std::cos(l[0] * M_PI / 180), uy = std::sin(l[0] * M_PI / 180);
+        const double ux = std::cos(l[0] * kPi / 180), uy = std::sin(l[0] * kPi / 180);
         double period = 0.0;
         for (int d = 5; d < l.len(); ++d) period += std::fabs(l[d]);
         const int families = static_cast<int>(2 * size / std::fabs(l[4])) + 2;

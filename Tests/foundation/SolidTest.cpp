@@ -8,6 +8,8 @@
 
 namespace {
 
+const double kPi = std::acos(-1.0);
+
 typedef CZemArrayTempl<CZemVertexArrayEx> Pieces;
 const CZemArrayTempl<CZemVertexArray> kNoHoles;
 
@@ -111,8 +113,8 @@ TEST(Solid, RoundWallsShowOnlyTheirOutlineEdges) {
     // The bottom circle hides its back half, give or take a chord of 10 degrees.
     double bottom = 0.0;
     for (int k = 0; k < 36; ++k)
-        bottom += Isometric::screen(std::cos(k * M_PI / 18), std::sin(k * M_PI / 18), 0)
-                      .distanceTo(Isometric::screen(std::cos((k + 1) * M_PI / 18), std::sin((k + 1) * M_PI / 18), 0));
+        bottom += Isometric::screen(std::cos(k * kPi / 18), std::sin(k * kPi / 18), 0)
+                      .distanceTo(Isometric::screen(std::cos((k + 1) * kPi / 18), std::sin((k + 1) * kPi / 18), 0));
     EXPECT_NEAR(bottom / 2, totalLength(hidden), bottom / 36);
     EXPECT_NEAR(2 * bottom + 2 * 4 / std::sqrt(6.0), totalLength(visible) + totalLength(hidden), 1e-9);
 
