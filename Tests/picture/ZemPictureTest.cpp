@@ -1,0 +1,338 @@
+#include "PictureFiles.h"
+#include "PictureWindow.h"
+#include "ZemGdiCount.h"
+#include "ZemModalScript.h"
+
+#include <gtest/gtest.h>
+#include <ole2.h>
+#include <wincodec.h>
+
+#include <cmath>
+#include <functional>
+#include <string>
+#include <vector>
+
+using picturetest::imagePath;
+using picturetest::quadrants;
+using picturetest::Raster;
+
+namespace {
+
+constexpr COLORREF kRed = RGB(255, 0, 0);
+constexpr COLORREF kGreen = RGB(0, 255, 0);
+constexpr COLORREF kBlue = RGB(0, 0, 255);
+constexpr COLORREF kYellow = RGB(255, 255, 0);
+constexpr COLORREF kMagenta = RGB(255, 0, 255);
+constexpr COLORREF kCyan = RGB(0, 255, 255);
+
+// The application initialises OLE before it loads pictures; the library doesn't.
+class OleEnvironment : public ::testing::Environment {
+public:
+    void SetUp() override { ASSERT_TRUE(SUCCEEDED(OleInitialize(nullptr))); }
+    void TearDown() override { OleUninitialize(); }
+};
+::testing::Environment* const g_ole = ::testing::AddGlobalTestEnvironment(new OleEnvironment);
+
+// 800 by 600 pixels: red and green over blue and yellow.
+std::wstring largeImage()
+{
+    const std::wstring path = imagePath(L"large.bmp");
+    EXPECT_TRUE(picturetest::writeBmp(path, quadrants(800, 600, kRed, kGreen, kBlue, kYellow)));
+    return path;
+}
+
+// The quadrant image is shown in shown (left, top, width, height): each
+// quadrant's colour inside it and beside the splits, the image's edges to
+// the pixel, and the background just outside; only points within the control.
+void expectShown(PictureWindow& window, RECT shown, COLORREF background, int clientSize = 400)
+{
+    const int width = shown.right;
+    const int height = shown.bottom;
+    const int left = shown.left;
+    const int top = shown.top;
+    const auto inside = [clientSize](int v) { return v >= 0 && v < clientSize; };
+    const int quarterX = left + width / 4;
+    const int quarterY = top + height / 4;
+    const int splitX = left + width / 2;
+    const int splitY = top + height / 2;
+    const struct {
+        int x, y;
+        COLORREF color;
+    } points[] = {{quarterX, quarterY, kRed},
+                  {left + 3 * width / 4, quarterY, kGreen},
+                  {quarterX, top + 3 * height / 4, kBlue},
+                  {left + 3 * width / 4, top + 3 * height / 4, kYellow},
+                  {splitX - 3, quarterY, kRed},
+                  {splitX + 3, quarterY, kGreen},
+                  {quarterX, splitY - 3, kRed},
+                  {quarterX, splitY + 3, kBlue},
+                  {left, quarterY, kRed},
+                  {left - 1, quarterY, background},
+                  {left + width - 1, quarterY, kGreen},
+                  {left + width, quarterY, background},
+                  {quarterX, top, kRed},
+                  {quarterX, top - 1, background},
+                  {quarterX, top + height - 1, kBlue},
+                  {quarterX, top + height, background}};
+    for (const auto& point : points) {
+        if (inside(point.x) && inside(point.y)) {
+            EXPECT_EQ(window.pixel(point.x, point.y), point.color) << "at " << point.x << ", " << point.y;
+        }
+    }
+}
+
+// The texts of a dialog's child windows.
+std::vector<std::wstring> childTexts(HWND dialog)
+{
+    std::vector<std::wstring> texts;
+    EnumChildWindows(
+        dialog,
+        [](HWND child, LPARAM data) -> BOOL {
+            wchar_t text[512] = {};
+            GetWindowTextW(child, text, 512);
+            reinterpret_cast<std::vector<std::wstring>*>(data)->push_back(text);
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&texts));
+    return texts;
+}
+
+std::wstring systemText(DWORD error)
+{
+    wchar_t text[260] = {};
+    FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, error, 0, text, 260, nullptr);
+    std::wstring result = text;
+    while (!result.empty() && (result.back() == L'\n' || result.back() == L'\r'))
+        result.pop_back();
+    return result;
+}
+
+}  // namespace
+
+TEST(ZemPicture, FitsALargeImageAndKeepsASmallOneAtItsSizeBothCentred)
+{
+    PictureWindow window;
+    window.pic().SetBackColor(kMagenta);
+    ASSERT_TRUE(window.pic().LoadImageW(largeImage().c_str()));
+    window.paint();
+    // Fit factor max(600 / 400, 800 / 400) = 2: 400 by 300, 50 down.
+    expectShown(window, {0, 50, 400, 300}, kMagenta);
+
+    const std::wstring small = imagePath(L"small.bmp");
+    ASSERT_TRUE(picturetest::writeBmp(small, quadrants(100, 60, kRed, kGreen, kBlue, kYellow)));
+    ASSERT_TRUE(window.pic().LoadImageW(small.c_str()));
+    window.paint();
+    expectShown(window, {150, 170, 100, 60}, kMagenta);
+    EXPECT_TRUE(window.pic().IsKindOf(RUNTIME_CLASS(CWnd)));
+}
+
+// One notch of 1.5 about (100, 100) moves the corner from (0, 50) to
+// (100 - 100 * 1.5, 100 - 50 * 1.5) and shows 600 by 450.
+TEST(ZemPicture, TheWheelZoomsAboutTheCursorOneStepANotchWithinLimits)
+{
+    PictureWindow window;
+    window.pic().SetBackColor(kMagenta);
+    ASSERT_TRUE(window.pic().LoadImageW(largeImage().c_str()));
+    window.wheel(120, {100, 100});
+    window.update();
+    expectShown(window, {-50, 25, 600, 450}, kMagenta);
+    window.wheel(-120, {100, 100});
+    EXPECT_EQ(window.pic().position().x, 0);
+    EXPECT_EQ(window.pic().position().y, 50);
+    EXPECT_DOUBLE_EQ(window.pic().zoom(), 1.0);
+
+    window.wheel(480, {200, 200});
+    EXPECT_DOUBLE_EQ(window.pic().zoom(), 1.5) << "a large delta is still one step";
+    int accepted = 1;
+    POINT refused = {};
+    for (int notch = 0; notch < 30; ++notch) {
+        const double before = window.pic().zoom();
+        refused = window.pic().position();
+        window.wheel(120, {200, 200});
+        accepted += window.pic().zoom() != before ? 1 : 0;
+    }
+    EXPECT_EQ(accepted, 8) << "zoom stops above 20";
+    EXPECT_NEAR(window.pic().zoom(), std::pow(1.5, 8), 1e-9);
+    EXPECT_EQ(window.pic().position().x, refused.x);
+
+    for (int notch = 0; notch < 30; ++notch)
+        window.wheel(-120, {200, 200});
+    EXPECT_NEAR(window.pic().zoom(), 1.0 / 2.25, 1e-9) << "zoom stops below 0.5";
+}
+
+TEST(ZemPicture, TheMiddleButtonPansAndResetFitsAgain)
+{
+    PictureWindow window;
+    window.pic().SetBackColor(kMagenta);
+    ASSERT_TRUE(window.pic().LoadImageW(largeImage().c_str()));
+    window.paint();
+    const int gdiObjects = zemGdiObjectCount();
+
+    window.send(WM_MBUTTONDOWN, MK_MBUTTON, {100, 100});
+    EXPECT_EQ(GetCapture(), window.hwnd());
+    EXPECT_EQ(GetFocus(), window.hwnd());
+    window.send(WM_MOUSEMOVE, MK_MBUTTON, {110, 90});
+    // The paint still pending takes the last position along.
+    window.send(WM_MOUSEMOVE, MK_MBUTTON, {130, 80});
+    window.update();
+    expectShown(window, {30, 30, 400, 300}, kMagenta);
+    window.send(WM_MOUSEMOVE, 0, {300, 300});
+    window.send(WM_MBUTTONUP, 0, {300, 300});
+    EXPECT_EQ(GetCapture(), nullptr);
+    window.update();
+    expectShown(window, {30, 30, 400, 300}, kMagenta);
+
+    window.wheel(120, {50, 50});
+    window.pic().Reset();
+    window.update();
+    expectShown(window, {0, 50, 400, 300}, kMagenta);
+    EXPECT_DOUBLE_EQ(window.pic().zoom(), 1.0);
+    EXPECT_EQ(zemGdiObjectCount(), gdiObjects) << "every paint gives back what it made";
+}
+
+TEST(ZemPicture, TheBackgroundIsTheSetColourUnlessTheControlIsTransparent)
+{
+    PictureWindow window(100, 100);
+    EXPECT_EQ(window.pic().GetStyle() & SS_NOTIFY, static_cast<DWORD>(SS_NOTIFY));
+    window.paint();
+    EXPECT_EQ(window.pixel(50, 50), GetSysColor(COLOR_BTNFACE)) << "an empty control";
+    window.pic().SetBackColor(kCyan);
+    EXPECT_FALSE(GetUpdateRect(window.hwnd(), nullptr, FALSE)) << "the setter doesn't repaint";
+    window.paint();
+    EXPECT_EQ(window.pixel(50, 50), kCyan);
+
+    PictureWindow transparent(100, 100, WS_EX_TRANSPARENT);
+    transparent.pic().SetBackColor(kCyan);
+    transparent.paint();
+    EXPECT_EQ(transparent.pixel(50, 50), GetSysColor(COLOR_BTNFACE));
+}
+
+TEST(ZemPicture, CopyPutsTheWholeImageOnTheClipboardWhateverTheZoom)
+{
+    PictureWindow window;
+    EXPECT_FALSE(window.pic().Copy()) << "nothing to copy";
+    ASSERT_TRUE(window.pic().LoadImageW(largeImage().c_str()));
+    window.wheel(120, {10, 10});
+    window.send(WM_MBUTTONDOWN, MK_MBUTTON, {0, 0});
+    window.send(WM_MOUSEMOVE, MK_MBUTTON, {70, 20});
+    window.send(WM_MBUTTONUP, 0, {70, 20});
+    ASSERT_TRUE(window.pic().Copy());
+
+    ASSERT_TRUE(OpenClipboard(window.hwnd())) << "the clipboard isn't held after the copy";
+    const auto metafile = static_cast<HENHMETAFILE>(GetClipboardData(CF_ENHMETAFILE));
+    ASSERT_NE(metafile, nullptr);
+    ENHMETAHEADER header = {};
+    GetEnhMetaFileHeader(metafile, sizeof header, &header);
+    EXPECT_EQ(header.rclBounds.left, 0);
+    EXPECT_EQ(header.rclBounds.top, 0);
+    EXPECT_EQ(header.rclBounds.right, 799);
+    EXPECT_EQ(header.rclBounds.bottom, 599);
+
+    const HDC screen = GetDC(nullptr);
+    const HDC memory = CreateCompatibleDC(screen);
+    const HBITMAP bitmap = CreateCompatibleBitmap(screen, 800, 600);
+    const HGDIOBJ former = SelectObject(memory, bitmap);
+    const RECT all = {0, 0, 800, 600};
+    PlayEnhMetaFile(memory, metafile, &all);
+    CloseClipboard();
+    EXPECT_EQ(GetPixel(memory, 200, 150), kRed);
+    EXPECT_EQ(GetPixel(memory, 600, 150), kGreen);
+    EXPECT_EQ(GetPixel(memory, 200, 450), kBlue);
+    EXPECT_EQ(GetPixel(memory, 799, 599), kYellow);
+    SelectObject(memory, former);
+    DeleteObject(bitmap);
+    DeleteDC(memory);
+    ReleaseDC(nullptr, screen);
+}
+
+TEST(ZemPicture, AFailedLoadSaysWhyWhenTheSystemKnowsAndLeavesTheControlEmpty)
+{
+    PictureWindow window(100, 100);
+    window.pic().SetBackColor(kCyan);
+    ASSERT_TRUE(window.pic().LoadImageW(largeImage().c_str()));
+    std::vector<std::wstring> texts;
+    CZemModalScript script({CZemModalScript::run([&texts](HWND box) { texts = childTexts(box); }),
+                            CZemModalScript::clickButton(IDOK)});
+    script.arm();
+    EXPECT_TRUE(window.pic().LoadImageW(imagePath(L"missing.bmp").c_str()));
+    EXPECT_TRUE(script.finished());
+    EXPECT_FALSE(script.timedOut());
+    EXPECT_EQ(script.firstCaption(), L"CZemPicture::LoadImage");
+    const std::wstring expected = systemText(ERROR_FILE_NOT_FOUND);
+    bool found = false;
+    for (std::wstring text : texts) {
+        while (!text.empty() && (text.back() == L'\n' || text.back() == L'\r'))
+            text.pop_back();
+        found = found || text == expected;
+    }
+    EXPECT_TRUE(found) << "the system's text for a missing file";
+    window.paint();
+    EXPECT_EQ(window.pixel(50, 50), kCyan) << "the former image is gone";
+    EXPECT_FALSE(window.pic().Copy());
+
+    CZemModalScript none({CZemModalScript::clickButton(IDOK)});
+    none.arm();
+    EXPECT_TRUE(window.pic().LoadImageW(L"")) << "a failure without an error code";
+    EXPECT_EQ(none.firstCaption(), L"") << "no message box";
+    EXPECT_FALSE(window.pic().LoadImageW(nullptr));
+}
+
+// Each format as the platform's picture object offers it, larger than the
+// control of 200 by 200 so that it is fitted: 300 by 240 shows 200 by 160 at
+// (0, 20), the icon of 240 by 120 shows 200 by 100 at (0, 50). The colour in
+// the middle, and 2 pixels inside and outside the top and bottom edges. The
+// GIF encoder's fixed palette and JPEG's compression shift the colour a little.
+TEST(ZemPicture, FitsBitmapsIconsGifJpegAndMetafilesAlike)
+{
+    const auto solid = [](int width, int height, COLORREF color) {
+        return quadrants(width, height, color, color, color, color);
+    };
+    const struct {
+        const wchar_t* name;
+        std::function<bool(const std::wstring&)> write;
+        RECT shown;
+        COLORREF color;
+        int tolerance;
+    } formats[] = {
+        {L"a.bmp", [&](const std::wstring& p) { return picturetest::writeBmp(p, solid(300, 240, kBlue)); },
+         {0, 20, 200, 180}, kBlue, 0},
+        {L"a.ico", [&](const std::wstring& p) { return picturetest::writeIco(p, solid(240, 120, kGreen)); },
+         {0, 50, 200, 150}, kGreen, 0},
+        {L"a.gif",
+         [&](const std::wstring& p) {
+             return picturetest::writeEncoded(p, GUID_ContainerFormatGif, solid(300, 240, kBlue));
+         },
+         {0, 20, 200, 180}, kBlue, 8},
+        {L"a.jpg",
+         [&](const std::wstring& p) {
+             return picturetest::writeEncoded(p, GUID_ContainerFormatJpeg, solid(300, 240, kRed));
+         },
+         {0, 20, 200, 180}, kRed, 24},
+        {L"a.emf", [](const std::wstring& p) { return picturetest::writeEmf(p, 300, 240, kYellow); },
+         {0, 20, 200, 180}, kYellow, 0},
+        {L"a.wmf", [](const std::wstring& p) { return picturetest::writeWmf(p, 300, 240, kMagenta); },
+         {0, 20, 200, 180}, kMagenta, 0},
+    };
+    for (const auto& format : formats) {
+        SCOPED_TRACE(format.name);
+        const std::wstring path = imagePath(format.name);
+        ASSERT_TRUE(format.write(path));
+        PictureWindow window(200, 200);
+        window.pic().SetBackColor(kCyan);
+        CZemModalScript failure({CZemModalScript::clickButton(IDOK)});
+        failure.arm();
+        ASSERT_TRUE(window.pic().LoadImageW(path.c_str()));
+        EXPECT_EQ(failure.firstCaption(), L"") << "loaded";
+        EXPECT_EQ(window.pic().position().x, format.shown.left);
+        EXPECT_EQ(window.pic().position().y, format.shown.top);
+        window.paint();
+        const COLORREF middle = window.pixel(100, 100);
+        EXPECT_NEAR(GetRValue(middle), GetRValue(format.color), format.tolerance);
+        EXPECT_NEAR(GetGValue(middle), GetGValue(format.color), format.tolerance);
+        EXPECT_NEAR(GetBValue(middle), GetBValue(format.color), format.tolerance);
+        EXPECT_NE(window.pixel(100, format.shown.top + 2), kCyan);
+        EXPECT_EQ(window.pixel(100, format.shown.top - 2), kCyan);
+        EXPECT_NE(window.pixel(100, format.shown.bottom - 3), kCyan);
+        EXPECT_EQ(window.pixel(100, format.shown.bottom + 2), kCyan);
+    }
+}
