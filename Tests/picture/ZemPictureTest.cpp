@@ -193,7 +193,10 @@ TEST(ZemPicture, TheMiddleButtonPansAndResetFitsAgain)
 TEST(ZemPicture, TheBackgroundIsTheSetColourUnlessTheControlIsTransparent)
 {
     PictureWindow window(100, 100);
-    EXPECT_EQ(window.pic().GetStyle() & SS_NOTIFY, static_cast<DWORD>(SS_NOTIFY));
+    CZemTestHost host;
+    CZemPicture fromTemplate;
+    ASSERT_TRUE(fromTemplate.SubclassWindow(host.addControl(L"STATIC", SS_LEFT, 7, {0, 0, 50, 50})));
+    EXPECT_EQ(fromTemplate.GetStyle() & SS_NOTIFY, static_cast<DWORD>(SS_NOTIFY)) << "a static control notifies";
     window.paint();
     EXPECT_EQ(window.pixel(50, 50), GetSysColor(COLOR_BTNFACE)) << "an empty control";
     window.pic().SetBackColor(kCyan);
