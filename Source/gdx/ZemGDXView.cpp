@@ -83,7 +83,8 @@ void CZemGDX::itemBounds(CZemDisplayItem& item, const CZemMatrix3d& t, CZemPoint
 // lists with arcs or points that are not finite go through one. An empty
 // list leaves lo and hi as they are.
 void CZemGDX::vertexListBounds(const CZemVertexArray& vl, const CZemMatrix3d& t, CZemPoint3d& lo, CZemPoint3d& hi) {
-    CZemPoint3d min, max;
+    if (vl.len() == 0) return;
+    double min[3], max[3];
     for (int k = 0; k < vl.len(); ++k) {
         const CZemVertex& v = vl[k];
         const CZemPoint3d a = v.m_start * t, b = v.m_end * t;
@@ -91,13 +92,14 @@ void CZemGDX::vertexListBounds(const CZemVertexArray& vl, const CZemMatrix3d& t,
             vl.getTransformedCopy(t).extents(lo, hi);
             return;
         }
-        if (k == 0) min = max = a;
-        min = ZEM::p_min(ZEM::p_min(min, a), b);
-        max = ZEM::p_max(ZEM::p_max(max, a), b);
+        for (int c = 0; c < 3; ++c) {
+            const double low = std::min(a[c], b[c]), high = std::max(a[c], b[c]);
+            min[c] = k == 0 ? low : std::min(min[c], low);
+            max[c] = k == 0 ? high : std::max(max[c], high);
+        }
     }
-    if (vl.len() == 0) return;
-    lo = min;
-    hi = max;
+    lo.set(min[0], min[1], min[2]);
+    hi.set(max[0], max[1], max[2]);
 }
 
 bool CZemGDX::viewMtxSet(const CZemMatrix3d& m) {
