@@ -1,5 +1,7 @@
 #include "ZemTextUtil.h"
 
+#include "ZemUtf8.h"
+
 #include <charconv>
 #include <climits>
 #include <cstdarg>
@@ -65,43 +67,8 @@ double convertReal(std::string number, long exponent, bool negative) {
     return value;
 }
 
-void appendUtf8(std::string& out, unsigned long code) {
-    if (code < 0x80) {
-        out += static_cast<char>(code);
-    } else if (code < 0x800) {
-        out += static_cast<char>(0xC0 | (code >> 6));
-        out += static_cast<char>(0x80 | (code & 0x3F));
-    } else if (code < 0x10000) {
-        out += static_cast<char>(0xE0 | (code >> 12));
-        out += static_cast<char>(0x80 | ((code >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (code & 0x3F));
-    } else {
-        out += static_cast<char>(0xF0 | (code >> 18));
-        out += static_cast<char>(0x80 | ((code >> 12) & 0x3F));
-        out += static_cast<char>(0x80 | ((code >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (code & 0x3F));
-    }
-}
-
-// Wide text to UTF-8; wide characters are UTF-16 where wchar_t has 16 bits and
-// code points otherwise. Lone surrogates and values beyond Unicode become U+FFFD.
-std::string toUtf8(const wchar_t* text) {
-    std::string out;
-    for (std::size_t k = 0; text[k]; ++k) {
-        unsigned long code = static_cast<unsigned long>(text[k]);
-        if (code >= 0xD800 && code < 0xDC00 && text[k + 1] >= 0xDC00 && text[k + 1] < 0xE000) {
-            code = 0x10000 + ((code - 0xD800) << 10) + (static_cast<unsigned long>(text[k + 1]) - 0xDC00);
-            ++k;
-        } else if ((code >= 0xD800 && code < 0xE000) || code > 0x10FFFF) {
-            code = 0xFFFD;
-        }
-        appendUtf8(out, code);
-    }
-    return out;
-}
-
 void stderrSink(const wchar_t* text) {
-    const std::string bytes = toUtf8(text);
+    const std::string bytes = ZEM::utf8Encode(text);
     std::fwrite(bytes.data(), 1, bytes.size(), stderr);
     std::fflush(stderr);
 }
