@@ -113,6 +113,7 @@ const CZemColor& CZemGDX::colorTabGet(GDX_CMODE m) const {
 
 bool CZemGDX::ColorTabSet(GDX_CMODE m, const CZemColor& c) {
     if (m < 1 || m > 14) return false;
-    m_colorTab[static_cast<int>(m) - 1] = c;
+    const CZemColor color(c);  // c may be an entry, which growing the table moves
+    m_colorTab[static_cast<int>(m) - 1] = color;
     return true;
 }

@@ -52,7 +52,8 @@ int CZemGDX::stackGet(const CZemArrayTempl<int>& q) const {
 // Every matching item takes the move delta = m . old^-1 that brings the
 // reference item from its matrix old to m. Items whose matrix equals old get
 // m itself, so that the move carries no rounding into them.
-bool CZemGDX::mtxSet(const CZemArrayTempl<int>& q, const CZemMatrix3d& m) {
+bool CZemGDX::mtxSet(const CZemArrayTempl<int>& q, const CZemMatrix3d& target) {
+    const CZemMatrix3d m(target);  // target may be the matrix of an item that moves
     const CZemArrayTempl<int> numbers = StackToItemNr(q);
     if (numbers.isEmpty()) return false;
     int reference = numbers[-1];

@@ -99,6 +99,9 @@ TEST(GdxStack, MatrixMovesAGroupRigidly) {
     ASSERT_TRUE(h.mtxSet(path({1}), m));
     EXPECT_TRUE(h.mtxGet(1) == m) << "without an item at exactly q the last match leads";
     EXPECT_FALSE(h.mtxSet(path({3}), m));
+    const CZemMatrix3d wanted = h.mtxGet(0);
+    ASSERT_TRUE(h.mtxSet(path({1}), h.mtxGet(0)));
+    EXPECT_TRUE(h.mtxGet(1) == wanted) << "the new matrix may be a member's own";
 }
 
 TEST(GdxStack, RemovalsKeepTheOrderAndRecomputeOnlyWhenTheyRemove) {
