@@ -11,7 +11,7 @@ TEST(GdxEntry, ColourTableAndPointDefaults) {
     EXPECT_TRUE(g.ColorTabLenGet() == 14 && g.colorTabGet(GDX_CM_ITEM).colorIndex() == 9) << "mode 0: the last";
     CZemGDX h = newList();
     h.ColorTabSet(GDX_CM_HIGHLIGHT, indexColor(4));
-    ASSERT_TRUE(h.ColorTabSet(GDX_CMODE(12), h.colorTabGet(GDX_CM_HIGHLIGHT))) << "an entry copied while the table grows";
+    ASSERT_TRUE(h.ColorTabSet(GDX_CMODE(12), h.colorTabGet(GDX_CM_HIGHLIGHT))) << "copied while the table grows";
     EXPECT_EQ(h.colorTabGet(GDX_CMODE(12)).colorIndex(), 4);
 
     addPoint(g, path({1}), CZemPoint3d(1, 1, 0));
