@@ -29,6 +29,14 @@
 //   HELP                         folders    searched for help files before SUPPORT
 //   INSUNITS                     int        the drawing unit, 1 to 20 (default 4, mm)
 //   LANGUAGE                     string     the message language at start (default DEU)
+//   LUNITS                       int        the application's number format, 1 to 5 (default 2)
+//   PATTERN_FILES                files      hatch pattern files, in order (default
+//                                           zem.pat;acadiso.pat;acad.pat)
+//   MATERIALS                    data set   the material library (default zem_mat.dta)
+//   LAYERS                       data set   the layer table (default zem_layer.dta)
+//   OBJECTS                      data set   the object library (default zem_obj.dta)
+// A data set: a directory in the configuration itself, or the name of a data
+// set file on the support path.
 // Folders: one string with folders separated by ';', or a list of strings.
 // A colour: an int (colour index), a string "R,G,B" (0 to 255 each) or
 // "#RRGGBB" (true colour), or a directory with COLOR (index), RGB (true
