@@ -1,9 +1,12 @@
 // Outside bytes as a slide and as a slide library: the decoder runs over the
 // bytes as they are, then over every slide the library directory names, with
-// each point mapped to a window as the slide control does.
+// each point mapped to a window as the slide control does; the bytes as a
+// slide also become display items.
+#include "ZemGDX.h"
 #include "ZemSlideData.h"
 #include "ZemSlideDecoder.h"
 #include "ZemSlideFit.h"
+#include "ZemSlideImage.h"
 #include "ZemSlideLibrary.h"
 
 #include <cstddef>
@@ -46,6 +49,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     CZemSlideData data;
     data.assign(bytes, static_cast<long>(size));
     decoder.draw(data);
+
+    CZemSlideImage image;
+    image.assign(bytes, static_cast<long>(size));
+    CZemGDX gdx(CZemColor(), CZemMatrix3d(), 1.0, 0, CZemPoint3d(), CZemPoint3d());
+    image.image(gdx, GDX_FILL, nullptr);
 
     std::istringstream library(std::string(reinterpret_cast<const char*>(bytes), size));
     const std::vector<CZemSlideLibrary::Entry> entries = CZemSlideLibrary::directory(library);
