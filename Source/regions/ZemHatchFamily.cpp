@@ -23,6 +23,7 @@ CZemHatchFamily::CZemHatchFamily(const CZemPatternLine& line, const CZemArrayTem
     m_turn.setToRotation(rotation, CZemVector3d::kZAxis, CZemPoint3d::kOrigin);
     m_turnBack.setToRotation(-rotation, CZemVector3d::kZAxis, CZemPoint3d::kOrigin);
     m_ready = line.hasLines() && prepare(regs, diagonal);
+    if (m_ready && measure == Measure::window) m_edges = std::make_unique<CZemEdgeTable>(m_regions);
 }
 
 // The regions go into the line's frame, where the family's lines run along X
@@ -129,39 +130,77 @@ void CZemHatchFamily::step(double sign) {
     m_prototype.move(CZemVector3d(sign * shift, sign * std::fabs(dy), 0.0));
 }
 
+// Each hatch line is built in the next slot of out, which is given back if
+// the line leaves nothing.
 void CZemHatchFamily::sweep(const CZemMatrix3d& mtx, CZemArrayTempl<CZemVertexArray>& out) {
     if (!m_ready) return;
     descendClear();
+    const CZemMatrix3d* carry = mtx == CZemMatrix3d::kIdentity ? nullptr : &mtx;
+    std::unique_ptr<CZemStraightPass> fast;
+    if (m_edges && m_edges->isUsable()) {
+        fast = std::make_unique<CZemStraightPass>(*m_edges, m_spans, m_dashes.get(), m_frame, carry);
+    }
+    // The normal that transforming a list by the frame and mtx gives it.
+    CZemVertexArray carried;
+    carried.transformBy(m_frame);
+    if (carry) carried.transformBy(*carry);
     bool seen = false;
     for (long long pass = 0; pass < 3 * m_bound; ++pass) {
         step(1.0);
-        CZemVertexArray w = dashesOfPrototype();
-        if (m_rotation != 0.0) {
-            m_prototype.transformBy(m_turn);
-            w.transformBy(m_turn);
+        const int slot = out.len();
+        CZemVertexArray& pieces = out[slot];
+        pieces.setLogicalLength(0);
+        const Outcome outcome = passOnce(fast.get(), carry, pieces);
+        if (outcome == Outcome::met) seen = true;
+        if (pieces.isEmpty()) {
+            out.setLogicalLength(slot);
+            if (outcome == Outcome::clear && seen) return;
+            continue;
         }
-        if (lineMeetsContour(w)) {
-            seen = true;
-            CZemVertexArray pieces = piecesOf(w);
-            if (!pieces.isEmpty()) {
-                pieces.transformBy(m_frame);
-                pieces.transformBy(mtx);
-                out.append(pieces);
-            }
-        } else if (seen) {
-            return;
-        }
-        if (m_rotation != 0.0) m_prototype.transformBy(m_turnBack);
+        pieces.setNormal(carried.normal());
     }
 }
 
-CZemVertexArray CZemHatchFamily::dashesOfPrototype() {
-    if (!m_line.isDashed()) return m_prototype;
-    if (m_measure == Measure::whole) return m_dashes->measureWhole(m_prototype);
-    CZemVertexArray dashes;
+// The prototype is turned by the pattern's rotation for the pass and back
+// after it. Measured whole, its dashes are cut before it is turned. The
+// pieces end in world coordinates.
+CZemHatchFamily::Outcome CZemHatchFamily::passOnce(CZemStraightPass* fast, const CZemMatrix3d* carry,
+                                                   CZemVertexArray& pieces) {
+    if (m_measure == Measure::whole && m_line.isDashed()) m_whole = m_dashes->measureWhole(m_prototype);
     const double start = m_prototype[0].m_start.x;
-    m_dashes->measure(m_prototype, m_uprightLo.x - start, m_uprightHi.x - start, dashes);
-    return dashes;
+    if (m_rotation != 0.0) {
+        m_prototype.transformBy(m_turn);
+        m_whole.transformBy(m_turn);
+    }
+    Outcome outcome = fast ? fast->run(m_prototype, pieces) : Outcome::exact;
+    if (outcome == Outcome::exact) {
+        pieces.setLogicalLength(0);
+        outcome = exactPass(start, m_whole, pieces);
+        for (int k = 0; k < pieces.len(); ++k) {
+            pieces[k].transformBy(m_frame);
+            if (carry) pieces[k].transformBy(*carry);
+        }
+    }
+    if (m_rotation != 0.0) m_prototype.transformBy(m_turnBack);
+    return outcome;
+}
+
+// The pass by the exact rules of the polyline geometry: the dashes' chord
+// tested against the contour, the spans from the crossings with every
+// element, the dashes cut to them and clipped by the contour once more.
+CZemHatchFamily::Outcome CZemHatchFamily::exactPass(double start, const CZemVertexArray& whole,
+                                                    CZemVertexArray& pieces) {
+    CZemVertexArray w;
+    if (!m_line.isDashed()) {
+        w = m_prototype;
+    } else if (m_measure == Measure::whole) {
+        w = whole;
+    } else {
+        m_dashes->measure(m_prototype, m_uprightLo.x - start, m_uprightHi.x - start, w);
+    }
+    if (!lineMeetsContour(w)) return Outcome::clear;
+    pieces = piecesOf(w);
+    return Outcome::met;
 }
 
 bool CZemHatchFamily::meetsContour(const CZemPoint3d& from, const CZemPoint3d& to) const {

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "ZemArrayTempl.h"
+#include "ZemEdgeTable.h"
 #include "ZemHatchSpans.h"
 #include "ZemMatrix3d.h"
 #include "ZemPatternLine.h"
 #include "ZemPoint3d.h"
 #include "ZemPrototypeDashes.h"
+#include "ZemStraightPass.h"
 #include "ZemVertexArray.h"
 
 #include <memory>
@@ -15,8 +17,9 @@
 // of clipped dashes for each line that meets the region.
 class CZemHatchFamily {
 public:
-    // How the prototype is cut into dashes on each pass: only the stretch
-    // that can meet the region, or the whole line.
+    // How each pass is done: over the edges, with the prototype cut into
+    // dashes only where it can meet the region (the exact rules deciding near
+    // corners); or by the exact rules alone with the whole prototype cut.
     enum class Measure { window, whole };
 
     // regs: the region set in the hatch plane, element 0 the contour;
@@ -37,7 +40,9 @@ private:
     bool descendBelow();
     void descendClear();
     void step(double sign);
-    CZemVertexArray dashesOfPrototype();
+    using Outcome = CZemStraightPass::Outcome;
+    Outcome passOnce(CZemStraightPass* fast, const CZemMatrix3d* carry, CZemVertexArray& pieces);
+    Outcome exactPass(double start, const CZemVertexArray& whole, CZemVertexArray& pieces);
     bool meetsContour(const CZemPoint3d& from, const CZemPoint3d& to) const;
     bool lineMeetsContour(const CZemVertexArray& w) const;
     CZemVertexArray piecesOf(const CZemVertexArray& w) const;
@@ -52,10 +57,12 @@ private:
     CZemArrayTempl<CZemVertexArray> m_regions;
     CZemPoint3d m_low;
     CZemVertexArray m_prototype;
+    CZemVertexArray m_whole;
     double m_length = 0.0;
     long long m_bound = 0;
     CZemPoint3d m_uprightLo;
     CZemPoint3d m_uprightHi;
     std::unique_ptr<CZemPrototypeDashes> m_dashes;
     CZemHatchSpans m_spans;
+    std::unique_ptr<CZemEdgeTable> m_edges;
 };

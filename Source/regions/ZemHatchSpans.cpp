@@ -1,6 +1,7 @@
 #include "ZemHatchSpans.h"
 
 #include "ZemClip.h"
+#include "ZemPlaneView.h"
 #include "ZemPoint3dArray.h"
 
 #include <algorithm>
@@ -100,9 +101,22 @@ void CZemHatchSpans::keepInsidePart(const CZemVertex& dash, const CZemPoint3d& a
 }
 
 bool CZemHatchSpans::isInside(const CZemPoint3d& p) const {
-    if (!ZEM::g_vl_pt_inside(m_regions[0], p, true)) return false;
+    if (!insideElement(0, p)) return false;
     for (int k = 1; k < m_regions.len(); ++k) {
-        if (ZEM::g_vl_pt_inside(m_regions[k], p, true)) return false;
+        if (insideElement(k, p)) return false;
     }
     return true;
+}
+
+// ZEM::g_vl_pt_inside with the boundary counting as inside; an element in
+// the world XY plane keeps its prepared contour for the next test.
+bool CZemHatchSpans::insideElement(int k, const CZemPoint3d& p) const {
+    if (m_contours.empty()) {
+        for (int e = 0; e < m_regions.len(); ++e) {
+            const bool flat = CZemPlaneView::isZAxis(m_regions[e].normal());
+            m_contours.push_back(flat ? std::make_unique<CZemContour>(m_regions[e]) : nullptr);
+        }
+    }
+    const CZemContour* contour = m_contours[static_cast<size_t>(k)].get();
+    return contour ? contour->contains(p, true) : ZEM::g_vl_pt_inside(m_regions[k], p, true);
 }

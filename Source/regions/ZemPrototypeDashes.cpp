@@ -1,6 +1,5 @@
 #include "ZemPrototypeDashes.h"
 
-#include "ZemGeomTolerance.h"
 #include "ZemMeasure.h"
 
 #include <algorithm>
@@ -17,15 +16,15 @@ CZemPoint3d pointAt(const CZemVertex& q, double t, double total) {
 }  // namespace
 
 CZemPrototypeDashes::CZemPrototypeDashes(const CZemArrayTempl<double>& dashes, double laidPeriod, double length)
-    : m_parm(dashes), m_period(laidPeriod), m_length(length) {
+    : m_parm(dashes), m_period(laidPeriod) {
     for (int k = 0; k < dashes.len(); ++k) m_dashes.push_back(dashes[k]);
     // The first dash lies in the first period and the last one in the last
     // two; laying those stretches of a model prototype gives their offsets.
     const CZemVertex model(CZemPoint3d(0.0, 0.0, 0.0), CZemPoint3d(length, 0.0, 0.0), 0.0);
     CZemVertexArray head, tail;
-    lay(model, length, 0.0, std::min(m_period, length), head);
+    layPoints(model, length, 0.0, std::min(m_period, length), head);
     const double lastPeriods = std::max(0.0, std::floor(length / m_period) - 1.0);
-    lay(model, length, lastPeriods * m_period, length, tail);
+    layPoints(model, length, lastPeriods * m_period, length, tail);
     if (!head.isEmpty()) m_firstStart = head[0].m_start.x;
     if (!tail.isEmpty()) m_lastEnd = tail[-1].m_end.x;
 }
@@ -40,7 +39,7 @@ void CZemPrototypeDashes::measure(const CZemVertexArray& q, double lo, double hi
     const double from = std::max(0.0, std::floor(lo / m_period) * m_period);
     const double to = std::min(total, std::ceil(hi / m_period) * m_period);
     const int before = out.len();
-    if (from < to) lay(q[0], total, from, to, out);
+    if (from < to) layPoints(q[0], total, from, to, out);
     m_measured += out.len() - before;
 }
 
@@ -52,24 +51,8 @@ CZemVertexArray CZemPrototypeDashes::measureWhole(const CZemVertexArray& q) {
     return out;
 }
 
-// Entries are laid from offset `from`, which starts a period, until the
-// offset passes `to`; at most as many as whole periods up to `to` hold, so
-// an offset that no longer grows cannot hold the walk.
-void CZemPrototypeDashes::lay(const CZemVertex& q, double total, double from, double to, CZemVertexArray& out) const {
-    const size_t count = m_dashes.size();
-    const double periods = std::ceil((to - from) / m_period) + 1.0;
-    if (count == 0 || !(periods < 1e9)) return;
-    const long long limit = static_cast<long long>(periods) * static_cast<long long>(count);
-    double at = from;
-    for (long long k = 0; k < limit && at <= to && at <= total + ZEM::kDistTol; ++k) {
-        const double e = m_dashes[static_cast<size_t>(k) % count];
-        if (e > 0.0 && at < total - ZEM::kDistTol) {
-            const double end = at + e < total ? at + e : total;
-            if (end - at > ZEM::kDistTol) out.append(CZemVertex(pointAt(q, at, total), pointAt(q, end, total), 0.0));
-        } else if (e == 0.0) {
-            const CZemPoint3d p = pointAt(q, at, total);
-            out.append(CZemVertex(p, p, 0.0));
-        }
-        at += std::fabs(e);
-    }
+void CZemPrototypeDashes::layPoints(const CZemVertex& q, double total, double from, double to,
+                                    CZemVertexArray& out) const {
+    lay(total, from, to,
+        [&](double a, double b) { out.append(CZemVertex(pointAt(q, a, total), pointAt(q, b, total), 0.0)); });
 }

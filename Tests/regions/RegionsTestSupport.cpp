@@ -92,7 +92,7 @@ std::string outsidePieces(const CZemArrayTempl<CZemVertexArray>& lines, const CZ
         for (int v = 0; v < lines[k].len(); ++v) {
             const CZemVertex& piece = lines[k][v];
             const double mx = (piece.m_start.x + piece.m_end.x) / 2.0, my = (piece.m_start.y + piece.m_end.y) / 2.0;
-            const bool midIn = inRegion(regs, mx, my, 0.0) || piece.m_start.distanceTo(piece.m_end) <= 2.0 * tol;
+            const bool midIn = inRegion(regs, mx, my, tol) || piece.m_start.distanceTo(piece.m_end) <= 2.0 * tol;
             if (!midIn || !inRegion(regs, piece.m_start.x, piece.m_start.y, tol) ||
                 !inRegion(regs, piece.m_end.x, piece.m_end.y, tol)) {
                 std::ostringstream text;

@@ -26,8 +26,8 @@ int vertexCount(const CZemArrayTempl<CZemVertexArray>& lines);
 bool insidePolygon(const CZemVertexArray& contour, double x, double y);
 double distanceToBoundary(const CZemVertexArray& contour, double x, double y);
 
-// Checks every vertex of every line: its middle inside element 0 and
-// outside the holes, its ends within tol of the region. Returns a message for
+// Checks every vertex of every line: its middle and its ends inside element
+// 0 and outside the holes, points within tol of a boundary counting as in. Returns a message for
 // the first fault, empty if there is none.
 std::string outsidePieces(const CZemArrayTempl<CZemVertexArray>& lines, const CZemArrayTempl<CZemVertexArray>& regs,
                           double tol);
