@@ -20,7 +20,7 @@ constexpr int kHeight = 480;
 
 // The painted control as a picture file; the number of pixels that aren't
 // the background (black).
-int savePicture(const SlideWindow& window, const std::filesystem::path& file)
+int savePicture(SlideWindow& window, const std::filesystem::path& file)
 {
     CClientDC screen(nullptr);
     CDC memory;
@@ -30,9 +30,9 @@ int savePicture(const SlideWindow& window, const std::filesystem::path& file)
     int drawn = 0;
     {
         const CZemDCSelect selected = memory.SelectObject(bitmap);
-        const HDC painted = GetDC(const_cast<SlideWindow&>(window).pic());
+        const HDC painted = GetDC(window.pic());
         BitBlt(memory, 0, 0, kWidth, kHeight, painted, 0, 0, SRCCOPY);
-        ReleaseDC(const_cast<SlideWindow&>(window).pic(), painted);
+        ReleaseDC(window.pic(), painted);
         for (int y = 0; y < kHeight; y += 2) {
             for (int x = 0; x < kWidth; x += 2)
                 drawn += memory.GetPixel(x, y) != RGB(0, 0, 0);
