@@ -1,6 +1,5 @@
 #pragma once
 
-#include "ZemArrayTempl.h"
 #include "ZemMatrix3d.h"
 
 class CZemDataItem;

@@ -9,19 +9,14 @@
 
 namespace {
 
-// A value of the wall edit state: *WALL_EDIT* and the name, two string levels.
-const CZemDataItem* editState(const wchar_t* name)
+// Reads a value of the wall edit state: *WALL_EDIT* and the name, two string
+// levels. False, out untouched, if it isn't there or doesn't convert.
+template <class T>
+bool readEditState(const wchar_t* name, T& out)
 {
     const CZemDataKey key = CZemDataKey().set(5005, L"*WALL_EDIT*", 5005, name, 0);
-    return ZEM::cfg_get(&key);
-}
-
-template <class T>
-void readEditState(const wchar_t* name, T& out)
-{
-    const CZemDataItem* node = editState(name);
-    if (node)
-        node->get(out, nullptr);
+    const CZemDataItem* node = ZEM::cfg_get(&key);
+    return node && node->get(out, nullptr);
 }
 
 }  // namespace
@@ -45,8 +40,7 @@ void CZemWallEditImage::readEntry()
         const CZemDataKey sn(L"SN");
         m_wall->dir(entries, &sn);
     }
-    const CZemDataItem* bt = editState(L"BT");
-    m_found = bt && bt->get(m_entry, nullptr);
+    m_found = readEditState(L"BT", m_entry);
     const CZemDataKey entry = CZemDataKey().set(5003, m_entry, 0);
     for (int i = 0; i < entries.len(); ++i) {
         if (entries[i] == entry)

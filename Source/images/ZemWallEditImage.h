@@ -1,7 +1,5 @@
 #pragma once
 
-#include "ZemArrayTempl.h"
-#include "ZemDataKey.h"
 #include "ZemString.h"
 #include "ZemVertexArray.h"
 

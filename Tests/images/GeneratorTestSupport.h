@@ -26,9 +26,10 @@ inline CZemArrayTempl<int> path(std::initializer_list<int> elements)
     return stack;
 }
 
-inline std::vector<int> asVector(const CZemArrayTempl<int>& a)
+template <class T>
+std::vector<T> asVector(const CZemArrayTempl<T>& a)
 {
-    std::vector<int> out;
+    std::vector<T> out;
     for (int i = 0; i < a.len(); ++i)
         out.push_back(a[i]);
     return out;

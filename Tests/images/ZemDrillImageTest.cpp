@@ -5,6 +5,7 @@
 
 #include "GeneratorTestSupport.h"
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
 
@@ -96,62 +97,43 @@ protected:
 
 }  // namespace
 
-TEST_F(DrillImage, ViewThreeDrawsTheVisibleEdgesOfTheSolid)
+TEST_F(DrillImage, ViewThreeDrawsTheVisibleEdgesOfTheSolidAndIgnoresTheParameters)
 {
     ZEM::dtaWrite(m_object.get(), L"VIEW", 3);
     ZEM::dtaWrite(m_object.get(), L"PART_SOLID", L"teil");
+    markerParameters(1);
+    ZEM::dtaWrite(m_parameters.get(), L"STACK", gentest::path({5}));
     const int key = nextSolidKey();
-    ASSERT_TRUE(zem_gdx_image_drill(&m_gdx, m_object.get(), nullptr));
+    ASSERT_TRUE(zem_gdx_image_drill(&m_gdx, m_object.get(), m_parameters.get()));
     EXPECT_EQ(nextSolidKey(), key) << "the solid leaves the map";
     EXPECT_TRUE(m_app.m_calls.empty());
     ASSERT_GT(m_gdx.lenGet(), 0);
     EXPECT_NEAR(drawnLength(m_gdx), visibleEdgeLength(), 1e-6) << "hidden edges are left out";
-    double low[2] = {1e9, 1e9}, high[2] = {-1e9, -1e9};
+    CZemPoint3d low(1e9, 1e9, 0), high(-1e9, -1e9, 0), min, max;
     for (const CZemPoint3d& p : kCorners) {
-        low[0] = std::min(low[0], dot(p, kX)), high[0] = std::max(high[0], dot(p, kX));
-        low[1] = std::min(low[1], dot(p, kY)), high[1] = std::max(high[1], dot(p, kY));
+        low.set(std::min(low.x, dot(p, kX)), std::min(low.y, dot(p, kY)), 0);
+        high.set(std::max(high.x, dot(p, kX)), std::max(high.y, dot(p, kY)), 0);
     }
-    CZemPoint3d min, max;
     m_gdx.extmaxGet(min, max);
-    EXPECT_NEAR(min.x, low[0], 1e-9);
-    EXPECT_NEAR(min.y, low[1], 1e-9);
-    EXPECT_NEAR(max.x, high[0], 1e-9);
-    EXPECT_NEAR(max.y, high[1], 1e-9);
-    EXPECT_EQ(min.z, 0.0) << "flat, without depth";
-    EXPECT_EQ(max.z, 0.0);
-    for (int i = 0; i < m_gdx.lenGet(); ++i) {
-        CZemArrayTempl<int> stack;
-        m_gdx.itemStackGet(stack, i);
-        EXPECT_EQ(m_gdx.typeGet(i), GDX_VL);
-        EXPECT_EQ(asVector(stack), std::vector<int>{0});
-        EXPECT_EQ(m_gdx.flagGet(i), 0u);
-        EXPECT_EQ(m_gdx.colorGet(i).colorIndex(), 3) << "the colour of the part's layer";
-        EXPECT_EQ(m_gdx.linetypeGet(i).len(), 1);
-        EXPECT_EQ(m_gdx.linetypeGet(i)[0], 1.0);
-        EXPECT_EQ(m_gdx.thicknGet(i), 0);
-        EXPECT_TRUE(m_gdx.mtxGet(i) == CZemMatrix3d::kIdentity);
-    }
-}
-
-TEST_F(DrillImage, ViewThreeIgnoresTheParametersAndDefaultsToLayerZero)
-{
-    ZEM::dtaWrite(m_object.get(), L"VIEW", 3);
-    ASSERT_TRUE(zem_gdx_image_drill(&m_gdx, m_object.get(), nullptr));
-    CZemGDX plain = m_gdx;
-    m_gdx.clear();
-    markerParameters(1);
-    ZEM::dtaWrite(m_parameters.get(), L"STACK", gentest::path({5}));
-    ASSERT_TRUE(zem_gdx_image_drill(&m_gdx, m_object.get(), m_parameters.get()));
-    ASSERT_EQ(m_gdx.lenGet(), plain.lenGet());
+    EXPECT_LT(min.distanceTo(low) + max.distanceTo(high), 1e-9) << "the outline of the view, flat";
     for (int i = 0; i < m_gdx.lenGet(); ++i) {
         CZemArrayTempl<int> stack;
         m_gdx.itemStackGet(stack, i);
         EXPECT_EQ(m_gdx.typeGet(i), GDX_VL) << "no marker";
         EXPECT_EQ(asVector(stack), std::vector<int>{0});
         EXPECT_EQ(m_gdx.flagGet(i), 0u);
+        EXPECT_EQ(m_gdx.colorGet(i).colorIndex(), 3) << "the colour of the part's layer";
+        EXPECT_EQ(asVector(m_gdx.linetypeGet(i)), std::vector<double>{1.0});
+        EXPECT_EQ(m_gdx.thicknGet(i), 0);
         EXPECT_TRUE(m_gdx.mtxGet(i) == CZemMatrix3d::kIdentity);
-        EXPECT_EQ(m_gdx.colorGet(i).colorIndex(), 7) << "layer 0";
     }
+
+    const int drawn = m_gdx.lenGet();
+    m_gdx.clear();
+    m_object->set(nullptr, &CZemDataKey().set(L"PART_SOLID"));
+    ASSERT_TRUE(zem_gdx_image_drill(&m_gdx, m_object.get(), nullptr));
+    EXPECT_EQ(m_gdx.lenGet(), drawn);
+    EXPECT_EQ(m_gdx.colorGet(0).colorIndex(), 7) << "layer 0";
 }
 
 TEST_F(DrillImage, ViewThreeWithoutABodyFailsAndLeavesItsSolid)
