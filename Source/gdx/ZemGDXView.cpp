@@ -84,7 +84,7 @@ void CZemGDX::itemBounds(CZemDisplayItem& item, const CZemMatrix3d& t, CZemPoint
 // list leaves lo and hi as they are.
 void CZemGDX::vertexListBounds(const CZemVertexArray& vl, const CZemMatrix3d& t, CZemPoint3d& lo, CZemPoint3d& hi) {
     if (vl.len() == 0) return;
-    double min[3], max[3];
+    double min[3] = {0.0, 0.0, 0.0}, max[3] = {0.0, 0.0, 0.0};
     for (int k = 0; k < vl.len(); ++k) {
         const CZemVertex& v = vl[k];
         const CZemPoint3d a = v.m_start * t, b = v.m_end * t;
