@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <random>
 #include <cmath>
 #include <utility>
 #include <vector>
@@ -110,5 +111,26 @@ TEST(LineMeasure, DotsAreShortDashesAndArcsAreDashedAlongTheirChords) {
         EXPECT_NEAR(arc[k].m_start.distanceTo(c), 3.0, 0.1 + 1e-9);
         EXPECT_EQ(arc[k].m_bulge, 0.0);
         EXPECT_GE(arc[k].m_start.y, -1e-9);
+    }
+}
+
+TEST(LineMeasure, FittedRepetitionsFillEverySegmentExactly) {
+    std::mt19937 random(7);
+    std::uniform_real_distribution<double> dash(0.25, 2.0), length(0.1, 40.0);
+    for (int round = 0; round < 100; ++round) {
+        const double d0 = dash(random), g0 = dash(random), d1 = dash(random), g1 = dash(random), l = length(random);
+        CZemVertexArray vl = segment(0, 0, l, 0);
+        ASSERT_TRUE(zem_gdx_image_vl_measure(vl, values({d0, -g0, d1, -g1}), 2));
+        const double sum = d0 + g0 + d1 + g1;
+        if (l <= sum) {
+            EXPECT_EQ(vl.len(), 1) << "no longer than one repetition: solid";
+            continue;
+        }
+        // n whole repetitions, the rest spread over the 2 n gaps.
+        const double n = std::trunc(l / sum), widen = (l - n * sum) / (2.0 * n);
+        double covered = 0.0;
+        for (int k = 0; k < vl.len(); ++k) covered += vl[k].m_start.distanceTo(vl[k].m_end);
+        EXPECT_NEAR(covered, n * (d0 + d1), 1e-9) << "round " << round;
+        EXPECT_NEAR(vl[1].m_start.x - vl[0].m_end.x, g0 + widen, 1e-9) << "round " << round;
     }
 }

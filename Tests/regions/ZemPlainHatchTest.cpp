@@ -1,5 +1,4 @@
 #include "RegionsTestSupport.h"
-#include "ZemBase.h"
 #include "ZemHatch.h"
 
 #include <gtest/gtest.h>
@@ -15,120 +14,88 @@ namespace {
 
 const double kPi = 3.14159265358979323846;
 
-double highestY(const CZemArrayTempl<CZemVertexArray>& lines) {
-    double top = -HUGE_VAL;
-    for (int k = 0; k < lines.len(); ++k) {
-        for (int v = 0; v < lines[k].len(); ++v) top = std::max({top, lines[k][v].m_start.y, lines[k][v].m_end.y});
-    }
-    return top;
+CZemArrayTempl<CZemVertexArray> lines(const CZemArrayTempl<CZemVertexArray>& regs, double spacing, double angle,
+                                      const wchar_t* name = L"") {
+    return zem_gdx_image_reg_hatch(regs, CZemMatrix3d::kIdentity, name, spacing, angle);
+}
+
+std::set<long> rowsOf(const CZemArrayTempl<CZemVertexArray>& hatch) {
+    std::set<long> rows;
+    for (int k = 0; k < hatch.len(); ++k) rows.insert(std::lround(hatch[k][0].m_start.y * 1000.0));
+    return rows;
 }
 
 }  // namespace
 
-TEST(PlainHatch, EmptyRegionSetsAndUnusableSpacingsGiveNothing) {
+TEST(PlainHatch, EmptyRegionsAndUnusableSpacingsGiveNothing) {
     const CZemArrayTempl<CZemVertexArray> none;
-    EXPECT_EQ(zem_gdx_image_reg_hatch(none, CZemMatrix3d::kIdentity, L"", 0.5, 0.3).len(), 0);
-    EXPECT_EQ(zem_gdx_image_reg_hatch(none, CZemMatrix3d::kIdentity, L"DOTS", 0.5, 0.3).len(), 0);
     const auto square = regions({rectangle(0, 0, 10, 10)});
-    EXPECT_EQ(zem_gdx_image_reg_hatch(square, CZemMatrix3d::kIdentity, L"", 0.0, 0.3).len(), 0);
-    EXPECT_EQ(zem_gdx_image_reg_hatch(square, CZemMatrix3d::kIdentity, L"DOTS", -1.0, 0.3).len(), 0);
-    EXPECT_EQ(zem_gdx_image_reg_hatch(square, CZemMatrix3d::kIdentity, L"", NAN, 0.3).len(), 0);
+    EXPECT_EQ(lines(none, 0.5, 0.3).len(), 0);
+    EXPECT_EQ(lines(none, 0.5, 0.3, L"DOTS").len(), 0);
+    EXPECT_EQ(lines(square, 0.0, 0.3).len(), 0);
+    EXPECT_EQ(lines(square, -1.0, 0.3, L"DOTS").len(), 0);
+    EXPECT_EQ(lines(square, NAN, 0.3).len(), 0);
 }
 
-TEST(PlainHatch, ContinuousLinesCoverARectangleWithAHoleByAreaOverSpacing) {
+TEST(PlainHatch, LinesCoverARectangleWithAHoleByAreaOverSpacing) {
     const auto regs = regions({rectangle(0.5, 0.25, 40.5, 20.25), rectangle(10.5, 5.25, 20.5, 12.25)});
-    const double spacing = 1.0;
-    for (double angle : {0.0, 0.3, kPi / 4.0, -1.1}) {
-        const auto lines = zem_gdx_image_reg_hatch(regs, CZemMatrix3d::kIdentity, L"ANSI31", spacing, angle);
-        ASSERT_GT(lines.len(), 0) << angle;
-        const double area = 40.0 * 20.0 - 10.0 * 7.0;
-        const double longest = std::hypot(40.0, 20.0);
-        EXPECT_NEAR(regtest::totalLength(lines), area / spacing, longest) << "angle " << angle;
-        EXPECT_EQ(regtest::outsidePieces(lines, regs, 1e-7), "") << "angle " << angle;
-        for (int k = 0; k < lines.len(); ++k) {
-            ASSERT_EQ(lines[k].len(), 1) << "one element per clipped piece";
-            const CZemVector3d dir = lines[k][0].m_end - lines[k][0].m_start;
-            EXPECT_NEAR(std::fabs(dir.x * std::sin(-angle) - dir.y * std::cos(-angle)), 0.0, 1e-9)
-                << "lines run at minus the angle";
+    for (double angle : {0.0, kPi / 2.0}) {
+        const auto hatch = lines(regs, 1.0, angle);
+        EXPECT_NEAR(regtest::totalLength(hatch), (40.0 * 20.0 - 10.0 * 7.0) / 1.0, std::hypot(40.0, 20.0)) << angle;
+        EXPECT_EQ(regtest::outsidePieces(hatch, regs, 1e-7), "") << angle;
+        for (int k = 0; k < hatch.len(); ++k) {
+            ASSERT_EQ(hatch[k].len(), 1) << "one element per clipped piece";
+            const CZemVector3d dir = hatch[k][0].m_end - hatch[k][0].m_start;
+            EXPECT_NEAR(dir.x * std::sin(-angle) - dir.y * std::cos(-angle), 0.0, 1e-9) << "lines run at -angle";
         }
     }
+    const auto turned = lines(regs, 0.25, 0.3);
+    ASSERT_GT(turned.len(), 0);
+    EXPECT_EQ(regtest::outsidePieces(turned, regs, 1e-7), "");
 }
 
-TEST(PlainHatch, TheStepCountIsTheWholeUnitsSpannedNotDividedBySpacing) {
+TEST(PlainHatch, TheStepCountIsTheWholeUnitsSpannedWhateverTheSpacing) {
     const auto tall = regions({rectangle(0.0, 0.0, 30.0, 100.0)});
-    const auto lines = zem_gdx_image_reg_hatch(tall, CZemMatrix3d::kIdentity, L"", 0.5, 0.0);
-    EXPECT_NEAR(highestY(lines), 49.5, 1e-9) << "100 lines of spacing 0.5 reach half way up";
-    EXPECT_EQ(lines.len(), 100) << "the line along the lower edge lies on the contour, which counts as inside";
-
-    const auto coarse = zem_gdx_image_reg_hatch(tall, CZemMatrix3d::kIdentity, L"", 7.0, 0.0);
-    std::set<long> rows;
-    for (int k = 0; k < coarse.len(); ++k) rows.insert(std::lround(coarse[k][0].m_start.y));
-    EXPECT_EQ(rows, (std::set<long>{0, 7, 14, 21, 28, 35, 42, 49, 56, 63, 70, 77, 84, 91, 98}));
-
-    const auto small = regions({rectangle(3.2, 5.1, 3.9, 5.8)});
-    EXPECT_EQ(zem_gdx_image_reg_hatch(small, CZemMatrix3d::kIdentity, L"", 0.1, 0.0).len(), 0)
-        << "a region within one whole unit has no steps";
+    const auto fine = lines(tall, 0.5, 0.0);
+    EXPECT_EQ(fine.len(), 100) << "100 steps of 0.5 cover the lower half, the lower edge included";
+    EXPECT_EQ(*rowsOf(fine).rbegin(), 49500);
+    EXPECT_EQ(rowsOf(lines(tall, 7.0, 0.0)),
+              (std::set<long>{0, 7000, 14000, 21000, 28000, 35000, 42000, 49000, 56000, 63000, 70000, 77000, 84000,
+                              91000, 98000}));
+    EXPECT_EQ(lines(regions({rectangle(3.2, 5.1, 3.9, 5.8)}), 0.1, 0.0).len(), 0) << "within one unit: no steps";
+    // Holes clip but do not count: ten units wide give ten steps of 0.25,
+    // where the 100 wide band hole would have given a hundred.
+    const auto band = regions({rectangle(0.0, 0.0, 10.0, 4.0), rectangle(-50.0, 1.0, 50.0, 2.0)});
+    EXPECT_EQ(rowsOf(lines(band, 0.25, 0.0)), (std::set<long>{0, 250, 500, 750, 2250})) << "a hole's edge is out";
 }
 
-TEST(PlainHatch, HolesClipButDoNotCountForTheSteps) {
-    // Ten units wide and four high: ten steps of 0.25 reach y = 2.25. A band
-    // hole 100 units wide would give a hundred steps if it counted.
-    const auto withHole = regions({rectangle(0.0, 0.0, 10.0, 4.0), rectangle(-50.0, 1.0, 50.0, 2.0)});
-    const auto lines = zem_gdx_image_reg_hatch(withHole, CZemMatrix3d::kIdentity, L"", 0.25, 0.0);
-    EXPECT_NEAR(highestY(lines), 2.25, 1e-9);
-    EXPECT_EQ(regtest::outsidePieces(lines, withHole, 1e-7), "");
-    for (int k = 0; k < lines.len(); ++k) {
-        const double y = lines[k][0].m_start.y;
-        EXPECT_TRUE(y <= 1.0 || y >= 2.0) << "no line inside the hole, found one at " << y;
-    }
-}
-
-TEST(PlainHatch, TheCallersRegionsStayAsTheyWere) {
-    CZemArrayTempl<CZemVertexArray> regs = regions({rectangle(0, 0, 5, 5)});
-    regs[0].revert();
-    const CZemPoint3d first = regs[0][0].m_start;
-    CZemMatrix3d lift;
-    lift.setToTranslation(CZemVector3d(0.0, 0.0, 3.0));
-    zem_gdx_image_reg_hatch(regs, lift, L"", 0.5, 0.2);
-    EXPECT_EQ(regs[0][0].m_start, first);
-}
-
-TEST(PlainHatch, DotsLieInRowsFromEachPiecesStartWhateverTheAngle) {
+TEST(PlainHatch, DotsStartAtEachPiecesStartWhateverTheAngle) {
     const auto regs = regions({rectangle(0.0, 0.0, 10.0, 3.0), rectangle(3.3, -1.0, 4.1, 5.0)});
-    const auto dots = zem_gdx_image_reg_hatch(regs, CZemMatrix3d::kIdentity, L"DOTS", 1.0, 0.0);
-    const auto turned = zem_gdx_image_reg_hatch(regs, CZemMatrix3d::kIdentity, L"DOTS", 1.0, 1.2);
+    const auto dots = lines(regs, 1.0, 0.0, L"DOTS");
+    const auto turned = lines(regs, 1.0, 1.2, L"DOTS");
     ASSERT_EQ(dots.len(), turned.len());
     std::map<long, std::vector<double>> rows;
     for (int k = 0; k < dots.len(); ++k) {
         EXPECT_EQ(dots[k][0].m_start, turned[k][0].m_start) << "the angle has no effect on dots";
-        EXPECT_LE(dots[k][0].m_start.distanceTo(dots[k][0].m_end), 1e-9) << "a dot, not a dash";
-        rows[std::lround(dots[k][0].m_start.y * 1000.0)].push_back(dots[k][0].m_start.x);
+        EXPECT_EQ(dots[k][0].m_start, dots[k][0].m_end) << "a dot, not a dash";
+        rows[std::lround(dots[k][0].m_start.y)].push_back(dots[k][0].m_start.x);
     }
-    // Rows at 1 and 2 (the edges give no pieces); the right piece starts its
-    // own dots at the hole's edge.
     const std::vector<double> expected{0, 1, 2, 3, 4.1, 5.1, 6.1, 7.1, 8.1, 9.1};
-    for (long y : {1000L, 2000L}) {
-        ASSERT_EQ(rows[y].size(), expected.size()) << "row " << y;
-        for (size_t k = 0; k < expected.size(); ++k) EXPECT_NEAR(rows[y][k], expected[k], 1e-9);
-    }
-    const auto lower = zem_gdx_image_reg_hatch(regs, CZemMatrix3d::kIdentity, L"dots", 1.0, 0.0);
-    ASSERT_GT(lower.len(), 0);
-    EXPECT_GT(regtest::totalLength(lower), 10.0) << "the name is matched exactly: lines, not dots";
+    ASSERT_EQ(rows[1].size(), expected.size());
+    for (size_t k = 0; k < expected.size(); ++k) EXPECT_NEAR(rows[1][k], expected[k], 1e-9);
+    EXPECT_GT(regtest::totalLength(lines(regs, 1.0, 0.0, L"dots")), 10.0) << "only \"DOTS\" exactly makes dots";
 }
 
-TEST(PlainHatch, LinesAreBuiltInThePlaneAndCarriedBack) {
+TEST(PlainHatch, LinesAreBuiltInThePlaneAndTheCallersRegionsStay) {
     CZemMatrix3d plane;
-    plane.setCoordSystem(CZemPoint3d(5, 5, 5), CZemVector3d(1, 0, 0), CZemVector3d(0, 0.6, 0.8),
-                         CZemVector3d(0, -0.8, 0.6));
-    CZemArrayTempl<CZemVertexArray> flat = regions({rectangle(0.0, 0.0, 8.0, 6.0)});
+    plane.setCoordSystem(CZemPoint3d(5, 5, 5), CZemVector3d(1, 0, 0), CZemVector3d(0, 0.6, 0.8), CZemVector3d(0, -0.8, 0.6));
+    const auto flat = regions({rectangle(0.0, 0.0, 8.0, 6.0)});
     CZemArrayTempl<CZemVertexArray> world = flat;
     world[0].transformBy(plane);
-    const auto lines = zem_gdx_image_reg_hatch(world, plane, L"", 1.0, 0.0);
-    ASSERT_GT(lines.len(), 0);
+    const CZemVertexArray before = world[0];
+    const auto hatch = zem_gdx_image_reg_hatch(world, plane, L"", 1.0, 0.0);
+    EXPECT_EQ(world[0][1].m_start, before[1].m_start);
+    EXPECT_NEAR(regtest::totalLength(hatch), 7 * 8.0, 1e-9) << "seven lines from the lower to the upper edge";
     const CZemMatrix3d back = plane.inverse();
-    CZemArrayTempl<CZemVertexArray> inPlane = lines;
-    for (int k = 0; k < inPlane.len(); ++k) inPlane[k].transformBy(back);
-    for (int k = 0; k < inPlane.len(); ++k) EXPECT_NEAR(inPlane[k][0].m_start.z, 0.0, 1e-9);
-    EXPECT_EQ(regtest::outsidePieces(inPlane, flat, 1e-7), "");
-    EXPECT_NEAR(regtest::totalLength(lines), 7 * 8.0, 1e-9) << "seven lines from the lower to the upper edge";
+    for (int k = 0; k < hatch.len(); ++k) EXPECT_NEAR((hatch[k][0].m_start * back).z, 0.0, 1e-9);
 }
