@@ -11,6 +11,8 @@
 #include "ZemVector3d.h"
 #include "ZemVertexArray.h"
 
+class CZemDataItem;
+
 // A retained 3D display list: an ordered array of display items with the
 // matrices, extents, colour table and point defaults it is drawn with.
 // Items are numbered by their present index; stacks (integer paths carried by
@@ -106,6 +108,21 @@ public:
     // Empties the list and sets both extents to the origin; the rest stays.
     bool clear();
 
+    // --- Text (Source/text/ZemGDXText.cpp) --------------------------------
+    // Enters a text laid out in the stroke font at point, aligned by the word
+    // align (TL, TC, TR, CL, CC, CR, BC, BR; else baseline left). Always true.
+    bool imageTxt(const CZemArrayTempl<int>& stack, unsigned long flags, const wchar_t* text, const CZemColor& color,
+                  const CZemMatrix3d& mtx, const wchar_t* align, CZemPoint3d point);
+    // Enters a stored text laid out by the host (zem_text_to_regl), filled:
+    // the item's flags hold GDX_FILL. False, list unchanged, without regions.
+    bool imageTxt(const CZemArrayTempl<int>& stack, unsigned long flags, const CZemDataItem* text,
+                  const CZemColor& color, const CZemMatrix3d& mtx, double scale);
+    // Set the text, alignment word or insertion point of every item of group
+    // q, whatever its kind, and lay each out anew. False for a null text.
+    bool txtSet(const CZemArrayTempl<int>& q, const wchar_t* text);
+    bool txtAlignSet(const CZemArrayTempl<int>& q, const wchar_t* align);
+    bool txtPointSet(const CZemArrayTempl<int>& q, CZemPoint3d point);
+
     // --- Stacks (ZemGDXStack.cpp) -----------------------------------------
     // Numbers of the items whose stack begins with q, ascending; none for an
     // empty q.
@@ -162,6 +179,9 @@ public:
     int imageItemGet(const CZemPoint3d& p);
 
 protected:
+    // Lays out the text of item i (a writing index) into its text regions,
+    // then recomputes the extents. True.
+    bool txtReglUpd(int i);
     void flagSet(int i, unsigned long prop);
     void cFlagSet(int i, GDX_CMODE mode);
     bool removeItem(int i);
