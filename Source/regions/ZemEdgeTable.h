@@ -27,7 +27,7 @@ public:
     bool isUsable() const { return m_usable; }
 
     // The crossings of the infinite line through origin along the unit
-    // direction (ux, uy), by offset; false, with out unspecified, when a
+    // direction (ux, uy), by offset; false, out then meaningless, when a
     // corner lies within the guard distance of the line or two crossings lie
     // within it of each other.
     bool crossLine(const CZemPoint3d& origin, double ux, double uy, std::vector<Crossing>& out) const;

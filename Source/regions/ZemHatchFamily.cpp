@@ -63,16 +63,31 @@ void CZemHatchFamily::uprightBox() {
         if (m_regions[k].isEmpty()) continue;
         const CZemVertexArray upright =
             m_rotation != 0.0 ? m_regions[k].getTransformedCopy(m_turnBack) : m_regions[k];
-        CZemPoint3d min, max;
-        if (!upright.extents(min, max)) continue;
-        m_uprightLo = ZEM::p_min(m_uprightLo, min);
-        m_uprightHi = ZEM::p_max(m_uprightHi, max);
+        growBox(upright, m_uprightLo, m_uprightHi);
     }
     const double size = std::fabs(m_uprightLo.x) + std::fabs(m_uprightHi.x) + std::fabs(m_uprightLo.y) +
                         std::fabs(m_uprightHi.y);
     const double margin = m_line.laidPeriod() + 1e-6 * (1.0 + size);
     m_uprightLo -= CZemVector3d(margin, margin, 0.0);
     m_uprightHi += CZemVector3d(margin, margin, 0.0);
+}
+
+// Grows the box by the list: by the ends of its vertices when all are
+// straight, else by its true extents.
+void CZemHatchFamily::growBox(const CZemVertexArray& vl, CZemPoint3d& lo, CZemPoint3d& hi) {
+    bool straight = true;
+    for (int k = 0; k < vl.len() && straight; ++k) straight = vl[k].m_bulge == 0.0;
+    if (!straight) {
+        CZemPoint3d min, max;
+        if (!vl.extents(min, max)) return;
+        lo = ZEM::p_min(lo, min);
+        hi = ZEM::p_max(hi, max);
+        return;
+    }
+    for (int k = 0; k < vl.len(); ++k) {
+        lo = ZEM::p_min(ZEM::p_min(lo, vl[k].m_start), vl[k].m_end);
+        hi = ZEM::p_max(ZEM::p_max(hi, vl[k].m_start), vl[k].m_end);
+    }
 }
 
 // Whether any pass can bring the prototype over the regions: the second
@@ -118,8 +133,26 @@ void CZemHatchFamily::descendClear() {
         step(-1.0);
         CZemVertexArray probe(m_prototype);
         if (m_rotation != 0.0) probe.transformBy(m_turn);
-        if (!meetsContour(probe[0].m_start, probe[-1].m_end)) return;
+        if (!probeMeets(probe[0])) return;
     }
+}
+
+// Whether the straight line meets the contour: by its crossings with the
+// edges where they are clear of its ends and of corners, else by the exact
+// intersection.
+bool CZemHatchFamily::probeMeets(const CZemVertex& line) {
+    const double length = std::hypot(line.m_end.x - line.m_start.x, line.m_end.y - line.m_start.y);
+    if (m_edges && m_edges->isUsable() && length > m_edges->guard()) {
+        const double ux = (line.m_end.x - line.m_start.x) / length, uy = (line.m_end.y - line.m_start.y) / length;
+        bool sure = m_edges->crossLine(line.m_start, ux, uy, m_probeCrossings), meets = false;
+        for (const CZemEdgeTable::Crossing& c : m_probeCrossings) {
+            if (!sure || c.element != 0) continue;
+            sure = std::fabs(c.at) > m_edges->guard() && std::fabs(c.at - length) > m_edges->guard();
+            meets = meets || (c.at > 0.0 && c.at < length);
+        }
+        if (sure) return meets;
+    }
+    return meetsContour(line.m_start, line.m_end);
 }
 
 // One step of the family, up (+1) or down (-1): |dy| across the lines and dx

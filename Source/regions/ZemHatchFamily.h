@@ -11,6 +11,7 @@
 #include "ZemVertexArray.h"
 
 #include <memory>
+#include <vector>
 
 // The hatch lines of one pattern line over a region set: a prototype line
 // that descends below the region and then sweeps up across it, one polyline
@@ -36,6 +37,8 @@ public:
 private:
     bool prepare(const CZemArrayTempl<CZemVertexArray>& regs, double diagonal);
     void uprightBox();
+    static void growBox(const CZemVertexArray& vl, CZemPoint3d& lo, CZemPoint3d& hi);
+    bool probeMeets(const CZemVertex& line);
     bool canReach() const;
     bool descendBelow();
     void descendClear();
@@ -65,4 +68,5 @@ private:
     std::unique_ptr<CZemPrototypeDashes> m_dashes;
     CZemHatchSpans m_spans;
     std::unique_ptr<CZemEdgeTable> m_edges;
+    std::vector<CZemEdgeTable::Crossing> m_probeCrossings;
 };

@@ -17,7 +17,10 @@ CZemPoint3d pointAt(const CZemVertex& q, double t, double total) {
 
 CZemPrototypeDashes::CZemPrototypeDashes(const CZemArrayTempl<double>& dashes, double laidPeriod, double length)
     : m_parm(dashes), m_period(laidPeriod) {
-    for (int k = 0; k < dashes.len(); ++k) m_dashes.push_back(dashes[k]);
+    for (int k = 0; k < dashes.len(); ++k) {
+        m_dashes.push_back(dashes[k]);
+        if (dashes[k] >= 0.0) ++m_pieces;
+    }
     // The first dash lies in the first period and the last one in the last
     // two; laying those stretches of a model prototype gives their offsets.
     const CZemVertex model(CZemPoint3d(0.0, 0.0, 0.0), CZemPoint3d(length, 0.0, 0.0), 0.0);

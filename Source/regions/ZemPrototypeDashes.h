@@ -35,6 +35,8 @@ public:
     // length total that lies between the offsets lo and hi, in order.
     template <class Visit>
     void forEachDash(double total, double lo, double hi, Visit&& visit);
+    // About how many dashes and dots a stretch of this length holds.
+    double countOver(double length) const { return length / m_period * static_cast<double>(m_pieces); }
     // How many dashes were laid so far.
     long long measuredDashes() const { return m_measured; }
 
@@ -46,6 +48,7 @@ private:
     CZemArrayTempl<double> m_parm;
     std::vector<double> m_dashes;
     double m_period;
+    int m_pieces = 0;
     double m_firstStart = 0.0;
     double m_lastEnd = 0.0;
     long long m_measured = 0;

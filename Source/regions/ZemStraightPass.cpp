@@ -73,9 +73,16 @@ bool CZemStraightPass::spansWithin(double length, std::vector<double>& places) c
 bool CZemStraightPass::cutDashes(const CZemVertex& span, double lo, double hi, CZemVertexArray& pieces) {
     const double g = m_edges.guard();
     bool decided = true;
+    // Room for the dashes of the span at once; each is written in place.
+    const int count = pieces.len();
+    pieces.setLogicalLength(count + static_cast<int>(std::min(65536.0, m_dashes->countOver(hi - lo))) + 2);
+    pieces.setLogicalLength(count);
     m_dashes->forEachDash(m_length, lo, hi, [&](double a, double b) {
         if (a >= lo + g && b <= hi - g) {
-            pieces.append(CZemVertex(inWorld(a), inWorld(b), 0.0));
+            CZemVertex& dash = pieces[pieces.len()];
+            dash.m_start = inWorld(a);
+            dash.m_end = inWorld(b);
+            dash.m_bulge = 0.0;
         } else if (decided && b >= lo - g && a <= hi + g) {
             decided = cutNearEnd(CZemVertex(inLine(a), inLine(b), 0.0), span, lo, hi, pieces);
         }
