@@ -58,6 +58,7 @@ CZemString& CZemString::operator=(const CZemString& other) {
 }
 
 void CZemString::assign(const wchar_t* text, std::size_t count) {
+    if (count == 0 && !m_data) return;  // an empty string needs no buffer
     ensureCapacity(count + 1);
     std::wmemcpy(m_data, text, count);
     m_data[count] = 0;
