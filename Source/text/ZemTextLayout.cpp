@@ -13,6 +13,10 @@ namespace {
 constexpr double kGap = 0.5;
 constexpr double kTrailing = 0.2;
 
+// Where wchar_t is 32 bits wide, a character beyond 16 bits stands for two
+// surrogates, neither of which the font holds.
+bool beyondSixteenBits(unsigned long c) { return c > 0xFFFFUL; }
+
 }  // namespace
 
 CZemTextLayout& CZemTextLayout::place(const wchar_t* text, const CZemPoint3d& point) {
@@ -20,9 +24,7 @@ CZemTextLayout& CZemTextLayout::place(const wchar_t* text, const CZemPoint3d& po
     m_advance = 0.0;
     m_height = 0.0;
     for (const wchar_t* c = text; c && *c; ++c) {
-        // Text is read as 16-bit units; a wider character stands for two
-        // surrogates, neither of which the font holds.
-        if (static_cast<unsigned long>(*c) > 0xFFFFUL) continue;
+        if (beyondSixteenBits(static_cast<unsigned long>(*c))) continue;
         const RegionLists glyph = get_ascii_from_map(*c);
         if (!glyph.isEmpty()) placeGlyph(glyph, CZemVector3d(point.x + m_advance, point.y, point.z));
     }
