@@ -47,8 +47,10 @@ protected:
     // Whether the hatch of a region (stored rings, item matrix) is legible.
     virtual bool hatchLegible(const CZemArrayTempl<CZemVertexArray>& rings, const CZemHatchProp& hatch,
                               const CZemMatrix3d& item) const;
-    // The solid fill of split rings through w, with the fill pen selected.
-    virtual void fillRings(const CZemArrayTempl<CZemVertexArray>& rings, const CZemMatrix3d& w, COLORREF color);
+    // The solid fill of item i's split rings through w, with the fill pen
+    // selected.
+    virtual void fillRings(int i, const CZemArrayTempl<CZemVertexArray>& rings, const CZemMatrix3d& w,
+                           COLORREF color);
     virtual int outlineWidth(int i) const;
     // The rings of one glyph as they are drawn, in item coordinates.
     virtual CZemArrayTempl<CZemVertexArray> glyphRings(const CZemArrayTempl<CZemVertexArray>& glyph) const;
@@ -63,6 +65,9 @@ protected:
     // with a brush of color and bordered by the selected pen; the clip of the
     // whole output is selected again afterwards.
     void fillWithHoles(const CZemArrayTempl<CZemVertexArray>& rings, COLORREF color);
+    // The corners of a picture's box in device pixels: its stored points, or
+    // the whole output for GDX_PIC_FULL or without points.
+    void pictureBox(int i, unsigned long flags, CZemPoint3d& p0, CZemPoint3d& p1) const;
     // The fill colour where the item has one of its own, else the line colour.
     COLORREF fillColor(int i) const;
     COLORREF backgroundColor() const;

@@ -36,22 +36,28 @@ void loadFile(const CZemString& name, int cx, int cy, PictureSource& out)
 
 }  // namespace
 
-// The box is in device pixels and does not follow the view; the blit does
-// not stretch, so a file's image is sized by its loading and an icon keeps
-// its own size.
+// The box is in device pixels and does not follow the view.
+void CZemGdxPainter::pictureBox(int i, unsigned long flags, CZemPoint3d& p0, CZemPoint3d& p1) const
+{
+    CZemVertexArray placement;
+    m_gdx.geomGet(placement, i);
+    p0 = CZemPoint3d::kOrigin;
+    p1 = CZemPoint3d(m_width, m_height, 0.0);
+    if (!(flags & GDX_PIC_FULL) && !placement.isEmpty()) {
+        p0 = placement[0].m_start;
+        p1 = placement[-1].m_end;
+    }
+}
+
+// The blit does not stretch, so a file's image is sized by its loading and
+// an icon keeps its own size.
 void CZemGdxPainter::drawPicture(int i, unsigned long flags)
 {
     CZemString name;
     int number = 0;
     m_gdx.pictureGet(i, name, number);
-    CZemVertexArray placement;
-    m_gdx.geomGet(placement, i);
-    CZemPoint3d p0 = CZemPoint3d::kOrigin;
-    CZemPoint3d p1(m_width, m_height, 0.0);
-    if (!(flags & GDX_PIC_FULL) && !placement.isEmpty()) {
-        p0 = placement[0].m_start;
-        p1 = placement[-1].m_end;
-    }
+    CZemPoint3d p0, p1;
+    pictureBox(i, flags, p0, p1);
     const int cx = zem_device_int(p1.x - p0.x);
     const int cy = zem_device_int(p1.y - p0.y);
     PictureSource source;

@@ -53,7 +53,7 @@ void CZemGdxPainter::fillRegion(int i, unsigned long flags)
     const CZemDCSelect penSelected = m_dc.SelectObject(pen);
     const CZemMatrix3d w = (m_device * m_direction) * item;
     const CZemArrayTempl<CZemVertexArray> split = zem_gdx_image_reg_split(rings);
-    if (flags & GDX_FILL) fillRings(split, w, color);
+    if (flags & GDX_FILL) fillRings(i, split, w, color);
     if (flags & GDX_HATCH) hatchRegion(split, hatch, w);
 }
 
@@ -65,7 +65,7 @@ bool CZemGdxPainter::hatchLegible(const CZemArrayTempl<CZemVertexArray>& rings, 
 }
 
 // By scan lines, so the output holds only line records for a filled region.
-void CZemGdxPainter::fillRings(const CZemArrayTempl<CZemVertexArray>& rings, const CZemMatrix3d& w, COLORREF)
+void CZemGdxPainter::fillRings(int, const CZemArrayTempl<CZemVertexArray>& rings, const CZemMatrix3d& w, COLORREF)
 {
     CZemArrayTempl<CZemVertexArray> device = rings;
     transformRings(device, w);

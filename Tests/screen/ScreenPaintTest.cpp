@@ -1,0 +1,192 @@
+#include "RenderTestSupport.h"
+#include "ScreenTestSupport.h"
+
+#include <gtest/gtest.h>
+
+using namespace rendertest;
+using screentest::ScreenWindow;
+
+namespace {
+
+constexpr COLORREF kGreen = RGB(0, 255, 0);
+
+// A control of 110 by 110 pixels fitted to the list: a list point (x, y)
+// lies at (x + 5, 105 - y), as in a metafile of that size.
+struct Shown {
+    explicit Shown(CZemGDX& list) : window(control)
+    {
+        control.set_dpList(&list);
+        control.zoomExtents();
+        window.paint();
+    }
+    CZemDplistImage control;
+    ScreenWindow window;
+};
+
+// No two pixels of color touch, so each is a dot of its own.
+bool allApart(const ScreenWindow& window, COLORREF color)
+{
+    for (int y = 0; y + 1 < 110; ++y) {
+        for (int x = 0; x + 1 < 110; ++x) {
+            if (window.pixel(x, y) != color) continue;
+            if (window.pixel(x + 1, y) == color || window.pixel(x, y + 1) == color) return false;
+        }
+    }
+    return true;
+}
+
+void addPoint(CZemGDX& list, double size, unsigned long mode)
+{
+    list.imagePt(stack(1), 0, CZemPoint3d(50, 50, 0), ole(kBlue), CZemMatrix3d::kIdentity, size, mode);
+}
+
+}  // namespace
+
+TEST(ScreenPaint, AColourEqualToTheBackgroundIsInvertedWithItsRegionFill)
+{
+    for (COLORREF back : {kRed, kBlack}) {
+        CZemGDX list = makeList();
+        list.backColorSet(ole(back));
+        addLine(list, polyline({{10, 50, 0}, {90, 50, 0}}), doubles({1.0}), 1.0, 0, 0, back);
+        CZemColor contrast;
+        contrast.setColorIndex(-1);
+        list.imageReg(stack(2), GDX_FILL, rings({square(20.5, 60.5, 20)}), contrast, CZemMatrix3d::kIdentity,
+                      doubles({1.0}), 1.0, 0, ole(kGreen));
+        Shown shown(list);
+        const COLORREF inverse = back ^ 0xFFFFFF;
+        EXPECT_EQ(shown.window.pixel(50, 55), inverse) << "the line";
+        EXPECT_EQ(shown.window.pixel(35, 35), inverse) << "fill of a contrast item, whatever its fill colour";
+        EXPECT_EQ(shown.window.count(kGreen), 0);
+        EXPECT_EQ(shown.window.pixel(5, 5), back);
+    }
+}
+
+// The square's left and right edges cross row 65 at x 25 and 65.
+TEST(ScreenPaint, ARegionOutlineIsOnePixelWideOnScreenWhateverItsThickness)
+{
+    CZemGDX list = makeList();
+    list.imageReg(stack(1), GDX_EDGE, rings({square(20.5, 20.5, 40)}), ole(kBlue), CZemMatrix3d::kIdentity,
+                  doubles({1.0}), 1.0, 5, ole(kRed));
+    Shown shown(list);
+    EXPECT_EQ(shown.window.countInRow(65, kBlue), 2);
+    EXPECT_EQ(shown.window.pixel(25, 65), kBlue);
+    EXPECT_EQ(shown.window.pixel(65, 65), kBlue);
+
+    Canvas paper(110, 110);
+    paper.paint(list);
+    int thick = 0;
+    for (int x = 0; x < 110; ++x) thick += paper.pixel(x, 65) == kBlue;
+    EXPECT_GE(thick, 8) << "the metafile's outline has the item's thickness";
+}
+
+TEST(ScreenPaint, DotsAreSinglePixelsInTheColourOfTheirLines)
+{
+    CZemGDX list = makeList();
+    addLine(list, polyline({{10, 50, 0}, {90, 50, 0}}), doubles({0.0, 0.0, 1.0}), 1.0, 5);
+    Shown dotted(list);
+    EXPECT_GE(dotted.window.count(kBlue), 10);
+    EXPECT_EQ(dotted.window.countInRow(55, kBlue), dotted.window.count(kBlue)) << "one pixel, not the pen's width";
+    EXPECT_TRUE(allApart(dotted.window, kBlue));
+
+    PatternApp app;
+    app.add(L"DOTS", {0.0, 0.0, 0.0, 0.0, 10.0, 0.0, -10.0});
+    CZemGDX hatched = makeList();
+    hatched.imageReg(stack(1), GDX_HATCH, rings({square(20.5, 20.5, 40)}), ole(kBlue), CZemMatrix3d::kIdentity,
+                     doubles({1.0}), 1.0, 5, ole(kRed), CZemHatchProp(L"DOTS", 0.0, 1.0));
+    Shown dots(hatched);
+    EXPECT_GE(dots.window.count(kRed), 4) << "hatch dots take the fill colour";
+    EXPECT_EQ(dots.window.count(kBlue), 0);
+    EXPECT_TRUE(allApart(dots.window, kRed));
+}
+
+// The square lies at x 25.5 to 65.5 and y 44.5 to 84.5, its hole at x 45.5
+// to 55.5 and y 54.5 to 64.5.
+TEST(ScreenPaint, ASolidFillIsAPolygonBorderedByTheItemsPenWithItsHolesOpen)
+{
+    CZemGDX list = makeList();
+    list.imageReg(stack(1), GDX_FILL, rings({square(20.5, 20.5, 40), square(40.5, 40.5, 10)}), ole(kBlue),
+                  CZemMatrix3d::kIdentity, doubles({1.0}), 1.0, 0, ole(kRed));
+    Shown shown(list);
+    EXPECT_EQ(shown.window.pixel(35, 70), kRed);
+    EXPECT_EQ(shown.window.pixel(50, 60), kWhite) << "the hole";
+    EXPECT_EQ(shown.window.pixel(25, 70), kBlue) << "the border";
+    EXPECT_EQ(shown.window.pixel(65, 70), kBlue);
+    EXPECT_EQ(shown.window.countInRow(70, kRed), 39);
+}
+
+// Sizes a little above the whole pixels, as the view's scale may lie a
+// little below 1.
+TEST(ScreenPaint, PointSquaresAndFramesFollowTheScreensSizeRules)
+{
+    const struct {
+        double size;
+        unsigned long mode;
+        int pixels;
+    } cases[] = {{5.2, 64 | 1, 3 * 3 - 1}, {6.2, 64 | 1, 6 * 6 - 4 * 4}, {5.2, 8, 5 * 5}, {6.2, 32 | 1, 0}};
+    for (const auto& c : cases) {
+        CZemGDX list = makeList();
+        addPoint(list, c.size, c.mode);
+        Shown shown(list);
+        if (c.pixels > 0)
+            EXPECT_EQ(shown.window.count(kBlue), c.pixels) << c.size << " " << c.mode;
+        else
+            EXPECT_GT(shown.window.count(kBlue), 8) << "the circle";
+    }
+}
+
+// The second point is the size: (10, 10) and (30, 20) give 30 by 20 pixels
+// from (10, 10).
+TEST(ScreenPaint, APictureIsABitmapFileAtItsStoredSize)
+{
+    const std::wstring file = screentest::writeBmp(L"screen_green.bmp", 8, 8, kGreen);
+    CZemGDX list = makeList();
+    list.imagePicture(stack(1), 0, file.c_str(), 0, CZemPoint3d(10, 10, 0), CZemPoint3d(30, 20, 0));
+    Shown shown(list);
+    EXPECT_EQ(shown.window.count(kGreen), 30 * 20);
+    EXPECT_EQ(shown.window.pixel(10, 10), kGreen);
+    EXPECT_EQ(shown.window.pixel(39, 29), kGreen);
+
+    list.propSet(stack(1), GDX_PROP_FULL_ON);
+    shown.window.paint();
+    EXPECT_EQ(shown.window.count(kGreen), 110 * 110);
+
+    CZemGDX missing = makeList();
+    missing.imagePicture(stack(1), GDX_PIC_FULL, L"no such picture.bmp", 0, CZemPoint3d(), CZemPoint3d());
+    Shown nothing(missing);
+    EXPECT_EQ(nothing.window.count(kWhite), 110 * 110);
+}
+
+// A white text fill on white stays white: only its border shows.
+TEST(ScreenPaint, ATextFillKeepsItsColourAndIsBorderedByTheItemsPen)
+{
+    CZemDisplayItem text;
+    text.m_type = GDX_TXT;
+    text.m_flags = GDX_FILL;
+    text.m_color = ole(kBlue);
+    text.m_fcolor = ole(kWhite);
+    CZemVertexArray circle;
+    circle.append(CZemVertex(CZemPoint3d(30, 50, 0), CZemPoint3d(70, 50, 0), 1.0));
+    circle.append(CZemVertex(CZemPoint3d(70, 50, 0), CZemPoint3d(30, 50, 0), 1.0));
+    text.m_txtRegl.append(rings({circle}));
+    CZemGDX list = makeList();
+    list.addDisplayList(CZemArrayTempl<CZemDisplayItem>().append(text));
+    Shown shown(list);
+    EXPECT_EQ(shown.window.count(kBlack), 0);
+    EXPECT_EQ(shown.window.pixel(55, 55), kWhite);
+    EXPECT_EQ(shown.window.countInColumn(55, kBlue), 2);
+    EXPECT_TRUE(shown.window.pixel(35, 55) == kBlue || shown.window.pixel(34, 55) == kBlue) << "the round edge";
+}
+
+TEST(ScreenPaint, AnEmptyListLeavesTheErasedWindowAndNoListPaintsNothing)
+{
+    CZemGDX list = makeList();
+    list.backColorSet(ole(kRed));
+    Shown shown(list);
+    EXPECT_EQ(shown.window.count(kRed), 0);
+    EXPECT_EQ(shown.window.pixel(50, 50), GetSysColor(COLOR_WINDOW));
+
+    EXPECT_FALSE(shown.control.set_dpList(nullptr));
+    shown.window.paint();
+    EXPECT_FALSE(GetUpdateRect(shown.window.control(), nullptr, FALSE)) << "the paint is acknowledged";
+    EXPECT_TRUE(shown.control.zoomExtents());
+}

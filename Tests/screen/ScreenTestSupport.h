@@ -1,0 +1,45 @@
+#pragma once
+
+#include "ZemDplistImage.h"
+#include "ZemTestHost.h"
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace screentest {
+
+constexpr UINT kControlId = 1234;
+
+// A display list control of a given client size in a visible host window,
+// painted as the platform paints it; its pixels are read back from the window.
+class ScreenWindow {
+public:
+    ScreenWindow(CZemDplistImage& control, int width = 110, int height = 110);
+
+    HWND host() const { return m_host.hwnd(); }
+    HWND control() const { return m_control.m_hWnd; }
+    // Invalidates and repaints now, then copies the client area.
+    void paint();
+    COLORREF pixel(int x, int y) const { return m_pixels[static_cast<size_t>(y) * m_width + x]; }
+    int count(COLORREF color) const;
+    // Pixels of color in row y, or in column x.
+    int countInRow(int y, COLORREF color) const;
+    int countInColumn(int x, COLORREF color) const;
+    // A mouse message at a client point, sent as the platform sends it.
+    void mouse(UINT message, POINT at, UINT keys = 0) const;
+    // The LPARAMs of the picks posted to the host, taken off its queue.
+    std::vector<LPARAM> picks() const;
+
+private:
+    CZemTestHost m_host;
+    CZemDplistImage& m_control;
+    int m_width, m_height;
+    std::vector<COLORREF> m_pixels;
+};
+
+// A bottom-up 24-bit bitmap file of one colour in the tests' output folder.
+std::wstring writeBmp(const wchar_t* name, int width, int height, COLORREF color);
+
+}  // namespace screentest
