@@ -33,7 +33,7 @@ bool CZemHatchFamily::prepare(const CZemArrayTempl<CZemVertexArray>& regs, doubl
     m_frame.setCoordSystem(CZemPoint3d::kOrigin, ZEM::polar(angle, 1.0), ZEM::polar(angle + kPi / 2.0, 1.0),
                            CZemVector3d::kZAxis);
     const CZemMatrix3d toLine = m_frame.inverse();
-    for (int k = 0; k < regs.len(); ++k) m_regions.append(regs[k].getTransformedCopy(toLine));
+    copyIntoFrame(regs, toLine);
     zem_reg_ensure_contour(m_regions);
     const CZemPoint3dArray box = ZEM::g_vl_extmax(m_regions[0], 0.0);
     m_low = box[0];
@@ -49,6 +49,31 @@ bool CZemHatchFamily::prepare(const CZemArrayTempl<CZemVertexArray>& regs, doubl
     uprightBox();
     m_length = 2.0 * half;
     return descendBelow() && canReach();
+}
+
+// The regions in the line frame, as transforming copies would give them:
+// straight elements vertex by vertex with the normal that transforming a
+// list of theirs gives, others by transforming the list.
+void CZemHatchFamily::copyIntoFrame(const CZemArrayTempl<CZemVertexArray>& regs, const CZemMatrix3d& toLine) {
+    for (int k = 0; k < regs.len(); ++k) {
+        const CZemVertexArray& element = regs[k];
+        bool straight = true;
+        for (int v = 0; v < element.len() && straight; ++v) straight = element[v].m_bulge == 0.0;
+        if (straight && k > 0 && element.normal() == regs[k - 1].normal()) {
+            m_regions.append(element);
+            for (int v = 0; v < element.len(); ++v) m_regions[k][v].transformBy(toLine);
+            m_regions[k].setNormal(m_regions[k - 1].normal());
+        } else {
+            m_regions.append(element.getTransformedCopy(toLine));
+        }
+    }
+}
+
+// The middle of the prototype's one straight vertex, as CZemVertex::mid
+// gives it.
+double CZemHatchFamily::middleY() const {
+    const CZemVertex& q = m_prototype[0];
+    return q.m_start.y + 0.5 * (q.m_end.y - q.m_start.y);
 }
 
 // The box of the regions turned back by the pattern's rotation, where the
@@ -106,7 +131,7 @@ bool CZemHatchFamily::canReach() const {
 // near in one move; the last steps are taken one by one.
 bool CZemHatchFamily::descendBelow() {
     const double lowY = m_low.y;
-    const double startY = m_prototype[0].mid().y;
+    const double startY = middleY();
     if (!(startY > lowY)) return true;
     const double steps = std::floor((startY - lowY) / std::fabs(m_line.dy())) - 2.0;
     if (!std::isfinite(steps)) return false;
@@ -114,15 +139,15 @@ bool CZemHatchFamily::descendBelow() {
         const double shift = m_line.dy() > 0.0 ? m_line.dx() : -m_line.dx();
         m_prototype.move(CZemVector3d(-steps * shift, -steps * std::fabs(m_line.dy()), 0.0));
     }
-    for (double y = m_prototype[0].mid().y; y > lowY;) {
+    for (double y = middleY(); y > lowY;) {
         step(-1.0);
-        const double next = m_prototype[0].mid().y;
+        const double next = middleY();
         if (!(next < y)) return false;
         y = next;
     }
     // At a distance where a step no longer moves the line the sweep could
     // never reach the region.
-    const double y = m_prototype[0].mid().y;
+    const double y = middleY();
     return y - std::fabs(m_line.dy()) < y;
 }
 

@@ -36,6 +36,8 @@ public:
 
 private:
     bool prepare(const CZemArrayTempl<CZemVertexArray>& regs, double diagonal);
+    void copyIntoFrame(const CZemArrayTempl<CZemVertexArray>& regs, const CZemMatrix3d& toLine);
+    double middleY() const;
     void uprightBox();
     static void growBox(const CZemVertexArray& vl, CZemPoint3d& lo, CZemPoint3d& hi);
     bool probeMeets(const CZemVertex& line);

@@ -77,8 +77,10 @@ void CZemPrototypeDashes::lay(double total, double from, double to, Visit&& visi
     if (count == 0 || !(periods < 1e9)) return;
     const long long limit = static_cast<long long>(periods) * static_cast<long long>(count);
     double at = from;
+    size_t entry = 0;
     for (long long k = 0; k < limit && at <= to && at <= total + ZEM::kDistTol; ++k) {
-        const double e = m_dashes[static_cast<size_t>(k) % count];
+        const double e = m_dashes[entry];
+        entry = entry + 1 == count ? 0 : entry + 1;
         if (e > 0.0 && at < total - ZEM::kDistTol) {
             const double end = at + e < total ? at + e : total;
             if (end - at > ZEM::kDistTol) visit(at, end);
