@@ -26,11 +26,12 @@ TEST(TextItem, EntryStoresTheTextAndWidensTheExtentsThroughTheMatrix) {
     CZemGDX g = newList();
     CZemMatrix3d twice;
     twice.setToSRM(CZemPoint3d(2, 2, 1), 0.0, CZemVector3d(10, 0, 0));
-    ASSERT_TRUE(g.imageTxt(path({4, 1}), 0x200, L"AB", CZemColor().setColorIndex(3), twice, L"BC", CZemPoint3d(1, 1, 0)));
+    const CZemColor green = CZemColor().setColorIndex(3);
+    ASSERT_TRUE(g.imageTxt(path({4, 1}), 0x200, L"AB", green, twice, L"BC", CZemPoint3d(1, 1, 0)));
     EXPECT_EQ(g.typeGet(0), GDX_TXT);
     EXPECT_EQ(g.flagGet(0), 0x200UL) << "the string form stores the flags as given";
     EXPECT_TRUE(g.linetypeGet(0).len() == 3 && g.linetypeGet(0)[0] == 1.0 && g.linetypeGet(0)[2] == 0.0);
-    EXPECT_TRUE(g.ltscaleGet(0) == 0.0 && g.thicknGet(0) == 0);
+    EXPECT_TRUE(g.ltscaleGet(0) == 0.0 && g.thicknGet(0) == 0 && g.colorGet(0) == green);
     EXPECT_TRUE(CZemString(g.txtGet(0)) == L"AB" && CZemString(g.txtAlignGet(0)) == L"BC");
     EXPECT_EQ(g.txtPointGet(0), CZemPoint3d(1, 1, 0));
 

@@ -68,7 +68,8 @@ TEST(TextLayout, AlignmentWordsMoveByWidthAndHeight) {
         SCOPED_TRACE(std::string(kWords[k], kWords[k] + 2));
         expectMoved(base, layout(L"Ag", kWords[k], at), dx[k], dy[k]);
     }
-    for (const wchar_t* other : {L"", L"bl", L"tl", L"T", L"TLX", L"LT", L"CCC"}) expectMoved(base, layout(L"Ag", other, at), 0, 0, 0);
+    for (const wchar_t* other : {L"", L"bl", L"tl", L"T", L"TLX", L"LT", L"CCC"})
+        expectMoved(base, layout(L"Ag", other, at), 0, 0, 0);
 
     // The stem of ! is its top, though its dot comes later.
     expectMoved(layout(L"!", L"BL"), layout(L"!", L"TL"), 0, -glyphBox(L'!').y1);
