@@ -21,42 +21,23 @@ void ScreenWindow::paint()
     m_control.UpdateWindow();
     const HDC window = GetDC(m_control);
     const HDC memory = CreateCompatibleDC(window);
-    BITMAPINFO info = {};
-    info.bmiHeader = {sizeof(BITMAPINFOHEADER), m_width, -m_height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    void* bits = nullptr;
-    const HBITMAP bitmap = CreateDIBSection(window, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    const HBITMAP bitmap = CreateCompatibleBitmap(window, m_width, m_height);
     const HGDIOBJ before = SelectObject(memory, bitmap);
     BitBlt(memory, 0, 0, m_width, m_height, window, 0, 0, SRCCOPY);
-    GdiFlush();
     m_pixels.clear();
-    for (int k = 0; k < m_width * m_height; ++k) {
-        const unsigned v = static_cast<const unsigned*>(bits)[k];
-        m_pixels.push_back(RGB((v >> 16) & 0xFF, (v >> 8) & 0xFF, v & 0xFF));
-    }
+    for (int k = 0; k < m_width * m_height; ++k) m_pixels.push_back(GetPixel(memory, k % m_width, k / m_width));
     SelectObject(memory, before);
     DeleteObject(bitmap);
     DeleteDC(memory);
     ReleaseDC(m_control, window);
 }
 
-int ScreenWindow::count(COLORREF color) const
+int ScreenWindow::count(COLORREF color, int x, int y) const
 {
     int n = 0;
-    for (COLORREF c : m_pixels) n += c == color;
-    return n;
-}
-
-int ScreenWindow::countInRow(int y, COLORREF color) const
-{
-    int n = 0;
-    for (int x = 0; x < m_width; ++x) n += pixel(x, y) == color;
-    return n;
-}
-
-int ScreenWindow::countInColumn(int x, COLORREF color) const
-{
-    int n = 0;
-    for (int y = 0; y < m_height; ++y) n += pixel(x, y) == color;
+    for (int k = 0; k < m_width * m_height; ++k) {
+        if ((x < 0 || k % m_width == x) && (y < 0 || k / m_width == y)) n += m_pixels[k] == color;
+    }
     return n;
 }
 
@@ -76,18 +57,18 @@ std::vector<LPARAM> ScreenWindow::picks() const
     return out;
 }
 
-std::wstring writeBmp(const wchar_t* name, int width, int height, COLORREF color)
+std::wstring writeBmp(const wchar_t* name, int side, COLORREF color)
 {
-    const int stride = (width * 3 + 3) & ~3;
+    const int stride = (side * 3 + 3) & ~3;
     BITMAPFILEHEADER file = {0x4D42, 0, 0, 0, sizeof(BITMAPFILEHEADER) + sizeof(BITMAPINFOHEADER)};
-    const BITMAPINFOHEADER info = {sizeof(BITMAPINFOHEADER), width, height, 1, 24, BI_RGB, 0, 0, 0, 0, 0};
-    file.bfSize = file.bfOffBits + stride * height;
+    const BITMAPINFOHEADER info = {sizeof(BITMAPINFOHEADER), side, side, 1, 24, BI_RGB, 0, 0, 0, 0, 0};
+    file.bfSize = file.bfOffBits + stride * side;
     std::string row(stride, '\0');
-    for (int x = 0; x < width * 3; ++x) row[x] = static_cast<char>(color >> (8 * (2 - x % 3)));
+    for (int x = 0; x < side * 3; ++x) row[x] = static_cast<char>(color >> (8 * (2 - x % 3)));
     const std::wstring path = rendertest::outPath(name);
     std::ofstream out(path.c_str(), std::ios::binary);
     out.write(reinterpret_cast<const char*>(&file), sizeof file).write(reinterpret_cast<const char*>(&info), sizeof info);
-    for (int y = 0; y < height; ++y) out.write(row.data(), stride);
+    for (int y = 0; y < side; ++y) out.write(row.data(), stride);
     return path;
 }
 

@@ -23,10 +23,8 @@ public:
     // Invalidates and repaints now, then copies the client area.
     void paint();
     COLORREF pixel(int x, int y) const { return m_pixels[static_cast<size_t>(y) * m_width + x]; }
-    int count(COLORREF color) const;
-    // Pixels of color in row y, or in column x.
-    int countInRow(int y, COLORREF color) const;
-    int countInColumn(int x, COLORREF color) const;
+    // Pixels of color in the whole client area, or in row y (column -1), or in column x (row -1).
+    int count(COLORREF color, int x = -1, int y = -1) const;
     // A mouse message at a client point, sent as the platform sends it.
     void mouse(UINT message, POINT at, UINT keys = 0) const;
     // The LPARAMs of the picks posted to the host, taken off its queue.
@@ -40,6 +38,6 @@ private:
 };
 
 // A bottom-up 24-bit bitmap file of one colour in the tests' output folder.
-std::wstring writeBmp(const wchar_t* name, int width, int height, COLORREF color);
+std::wstring writeBmp(const wchar_t* name, int side, COLORREF color);
 
 }  // namespace screentest
