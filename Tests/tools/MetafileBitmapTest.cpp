@@ -1,0 +1,131 @@
+#include "ToolsTestSupport.h"
+#include "ZemMetafileBitmap.h"
+#include "ZemPngFile.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+using namespace toolstest;
+
+namespace {
+
+constexpr int kWidth = 300;
+constexpr int kHeight = 200;
+
+// A few shapes well inside the picture, so the metafile's own frame is far
+// smaller than the picture.
+void drawShapes(HDC dc)
+{
+    HPEN pen = CreatePen(PS_SOLID, 1, RGB(0, 0, 255));
+    HBRUSH brush = CreateSolidBrush(RGB(255, 0, 0));
+    const HGDIOBJ oldPen = SelectObject(dc, pen), oldBrush = SelectObject(dc, brush);
+    MoveToEx(dc, 40, 30, nullptr);
+    LineTo(dc, 40, 150);
+    Rectangle(dc, 100, 60, 180, 120);
+    MoveToEx(dc, 200, 170, nullptr);
+    LineTo(dc, 260, 170);
+    SelectObject(dc, oldBrush);
+    SelectObject(dc, oldPen);
+    DeleteObject(brush);
+    DeleteObject(pen);
+}
+
+std::vector<COLORREF> pixels(HBITMAP bitmap)
+{
+    BITMAPINFO info = {};
+    info.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
+    info.bmiHeader.biWidth = kWidth;
+    info.bmiHeader.biHeight = -kHeight;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    std::vector<COLORREF> out(kWidth * kHeight);
+    HDC screen = GetDC(nullptr);
+    GetDIBits(screen, bitmap, 0, kHeight, out.data(), &info, DIB_RGB_COLORS);
+    ReleaseDC(nullptr, screen);
+    for (COLORREF& p : out)
+        p &= 0xFFFFFF;
+    return out;
+}
+
+// The shapes drawn straight onto a white bitmap, for comparison.
+HBITMAP paintedDirectly()
+{
+    HDC screen = GetDC(nullptr);
+    HBITMAP bitmap = CreateCompatibleBitmap(screen, kWidth, kHeight);
+    ReleaseDC(nullptr, screen);
+    HDC dc = CreateCompatibleDC(nullptr);
+    const HGDIOBJ before = SelectObject(dc, bitmap);
+    const RECT all = {0, 0, kWidth, kHeight};
+    FillRect(dc, &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+    drawShapes(dc);
+    SelectObject(dc, before);
+    DeleteDC(dc);
+    return bitmap;
+}
+
+HENHMETAFILE recorded(void (*draw)(HDC))
+{
+    HDC dc = CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr);
+    draw(dc);
+    return CloseEnhMetaFile(dc);
+}
+
+}  // namespace
+
+TEST(MetafileBitmap, PlaysEveryRecordAtThePixelItWasDrawnAt)
+{
+    const HENHMETAFILE metafile = recorded(drawShapes);
+    ASSERT_NE(metafile, nullptr);
+    const HBITMAP played = zemMetafileBitmap(metafile, kWidth, kHeight);
+    const HBITMAP direct = paintedDirectly();
+    ASSERT_NE(played, nullptr);
+    const std::vector<COLORREF> a = pixels(played), b = pixels(direct);
+    int differ = 0, firstDiffer = -1;
+    for (size_t k = 0; k < a.size(); ++k) {
+        if (a[k] != b[k] && firstDiffer < 0)
+            firstDiffer = static_cast<int>(k);
+        differ += a[k] != b[k];
+    }
+    EXPECT_EQ(differ, 0) << "first at x " << firstDiffer % kWidth << " y " << firstDiffer / kWidth;
+    EXPECT_EQ(a[120 * kWidth + 40], static_cast<COLORREF>(0x0000FF)) << "the line's pixel, blue as 0x00RRGGBB";
+    EXPECT_EQ(a[90 * kWidth + 140], static_cast<COLORREF>(0xFF0000)) << "inside the red rectangle";
+
+    // Through a file and the PNG encoder the picture keeps its size.
+    const std::filesystem::path folder = freshFolder(L"tools-metafile");
+    const std::wstring emf = (folder / L"shapes.emf").wstring(), png = (folder / L"shapes.png").wstring();
+    DeleteEnhMetaFile(CopyEnhMetaFileW(metafile, emf.c_str()));
+    ASSERT_TRUE(zemMetafileToPng(emf.c_str(), kWidth, kHeight, png.c_str()));
+    const Picture picture = decodePng(png);
+    ASSERT_EQ(picture.width, kWidth);
+    ASSERT_EQ(picture.height, kHeight);
+    EXPECT_EQ(picture.at(40, 120), 0x0000FFu);
+    EXPECT_EQ(picture.at(140, 90), 0xFF0000u);
+    EXPECT_EQ(picture.at(5, 5), 0xFFFFFFu);
+    DeleteObject(played);
+    DeleteObject(direct);
+    DeleteEnhMetaFile(metafile);
+}
+
+TEST(MetafileBitmap, EmptyAndOneColumnMetafilesAndBadSizes)
+{
+    const HENHMETAFILE empty = recorded([](HDC) {});
+    const HENHMETAFILE column = recorded([](HDC dc) {
+        MoveToEx(dc, 70, 20, nullptr);
+        LineTo(dc, 70, 80);
+    });
+    const HBITMAP blank = zemMetafileBitmap(empty, kWidth, kHeight);
+    ASSERT_NE(blank, nullptr);
+    for (COLORREF p : pixels(blank))
+        ASSERT_EQ(p, 0xFFFFFFu);
+    const HBITMAP line = zemMetafileBitmap(column, kWidth, kHeight);
+    const std::vector<COLORREF> lit = pixels(line);
+    EXPECT_EQ(lit[50 * kWidth + 70], 0u) << "a metafile one pixel wide still plays where it was drawn";
+    EXPECT_EQ(lit[50 * kWidth + 71], 0xFFFFFFu);
+    EXPECT_EQ(zemMetafileBitmap(empty, 0, kHeight), nullptr);
+    EXPECT_FALSE(zemMetafileToPng(L"no such file.emf", kWidth, kHeight, L"never.png"));
+    DeleteObject(blank);
+    DeleteObject(line);
+    DeleteEnhMetaFile(empty);
+    DeleteEnhMetaFile(column);
+}

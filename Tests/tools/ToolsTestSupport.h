@@ -1,0 +1,55 @@
+#pragma once
+
+#include <windows.h>
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace toolstest {
+
+// A folder of this build's tree for the files a test makes, emptied first.
+std::filesystem::path freshFolder(const wchar_t* name);
+// The shared sample slides.
+std::filesystem::path slides();
+
+struct ProgramRun {
+    DWORD exitCode = 0xFFFFFFFF;
+    std::string output;  // stdout and stderr together
+};
+// Runs a program of this build with the arguments, waiting at most two minutes.
+ProgramRun run(const char* program, const std::vector<std::wstring>& arguments);
+
+// The record counts of a metafile file by record type, and its header; empty
+// and false if the platform can't read it as an enhanced metafile.
+struct Metafile {
+    bool read = false;
+    ENHMETAHEADER header = {};
+    long long fileBytes = 0;
+    std::map<DWORD, int> counts;
+    int count(DWORD type) const;
+    int total() const;
+};
+Metafile readMetafile(const std::filesystem::path& file);
+
+// The size a PNG file declares in its header: the eight signature bytes, then
+// an IHDR chunk of 13 bytes with width and height high byte first. False if
+// the bytes aren't a PNG file.
+bool pngSize(const std::filesystem::path& file, int& width, int& height);
+// The pixels of a PNG file decoded by the platform's imaging component, row
+// by row as 0x00RRGGBB; empty if it can't be decoded.
+struct Picture {
+    int width = 0;
+    int height = 0;
+    std::vector<unsigned> pixels;
+    unsigned at(int x, int y) const { return pixels[static_cast<size_t>(y) * width + x]; }
+    // Pixels other than white in a box (inclusive), clipped to the picture.
+    int inked(int x0, int y0, int x1, int y1) const;
+};
+Picture decodePng(const std::filesystem::path& file);
+
+std::vector<unsigned char> readBytes(const std::filesystem::path& file);
+bool writeBytes(const std::filesystem::path& file, const unsigned char* bytes, size_t count);
+
+}  // namespace toolstest
