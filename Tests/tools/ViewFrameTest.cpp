@@ -1,0 +1,109 @@
+#include "ToolsTestSupport.h"
+#include "ZemDemoDrawings.h"
+#include "ZemGDX.h"
+#include "ZemGdxImageSld.h"
+#include "ZemPngFile.h"
+#include "ZemViewFrame.h"
+
+#include <gtest/gtest.h>
+
+using namespace toolstest;
+
+namespace {
+
+// The control's client area as the platform painted it; written as a PNG
+// for a person to look at. The count of pixels other than white.
+int snapshot(CZemViewFrame& frame, const std::filesystem::path& file)
+{
+    frame.image().Invalidate();
+    frame.image().UpdateWindow();
+    RECT client;
+    GetClientRect(frame.image().m_hWnd, &client);
+    const HDC window = GetDC(frame.image().m_hWnd);
+    const HDC memory = CreateCompatibleDC(window);
+    const HBITMAP bitmap = CreateCompatibleBitmap(window, client.right, client.bottom);
+    const HGDIOBJ before = SelectObject(memory, bitmap);
+    BitBlt(memory, 0, 0, client.right, client.bottom, window, 0, 0, SRCCOPY);
+    int inked = 0;
+    for (int y = 0; y < client.bottom; y += 2) {
+        for (int x = 0; x < client.right; x += 2)
+            inked += GetPixel(memory, x, y) != RGB(255, 255, 255);
+    }
+    SelectObject(memory, before);
+    EXPECT_TRUE(zemWritePng(bitmap, file.c_str())) << file;
+    DeleteObject(bitmap);
+    DeleteDC(memory);
+    ReleaseDC(frame.image().m_hWnd, window);
+    return inked;
+}
+
+void pump()
+{
+    MSG msg;
+    while (PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE))
+        DispatchMessageW(&msg);
+}
+
+}  // namespace
+
+// The frame fills its client area with the control, fitted, and keeps it
+// filled when resized; a wheel notch zooms the drawing in.
+TEST(ViewFrame, ShowsTheDemoPlanAndFollowsItsSize)
+{
+    const std::filesystem::path folder = freshFolder(L"tools-view");
+    const ZemDemoDrawing& plan = zem_demo_drawings()[0];
+    CZemGDX list;
+    std::wstring error;
+    ASSERT_TRUE(plan.build(list, plan, {folder.wstring(), L"", L""}, error)) << error;
+    CZemViewFrame frame;
+    ASSERT_TRUE(frame.open(&list, L"plan", 900, 650));
+    RECT client, image;
+    GetClientRect(frame.m_hWnd, &client);
+    GetClientRect(frame.image().m_hWnd, &image);
+    EXPECT_EQ(image.right, client.right);
+    EXPECT_EQ(image.bottom, client.bottom);
+    const int fitted = snapshot(frame, folder / L"plan-view.png");
+    EXPECT_GT(fitted, image.right * image.bottom / 4 / 50) << "the plan is drawn";
+
+    frame.MoveWindow(0, 0, 700, 500);
+    GetClientRect(frame.m_hWnd, &client);
+    GetClientRect(frame.image().m_hWnd, &image);
+    EXPECT_EQ(image.right, client.right) << "the control follows the frame";
+    const POINT centre = {image.right / 2, image.bottom / 2};
+    POINT screen = centre;
+    ClientToScreen(frame.image().m_hWnd, &screen);
+    const int before = snapshot(frame, folder / L"plan-small.png");
+    for (int notch = 0; notch < 4; ++notch)
+        SendMessageW(frame.image().m_hWnd, WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA), MAKELPARAM(screen.x, screen.y));
+    const int zoomed = snapshot(frame, folder / L"plan-zoomed.png");
+    EXPECT_NE(zoomed, before) << "the wheel changed the view";
+    frame.fit();
+    EXPECT_EQ(snapshot(frame, folder / L"plan-fitted.png"), before) << "fitting brings the first view back";
+    frame.DestroyWindow();
+    pump();
+}
+
+// A click on a line of a slide names its item in the title.
+TEST(ViewFrame, APickNamesTheGroupInTheTitle)
+{
+    CZemGDX list;
+    const std::wstring library = (slides() / L"autolisp-cn" / L"LISP.SLB").wstring();
+    ASSERT_TRUE(zem_gdx_image_sld(&list, L"P_1", library.c_str(), 0, nullptr));
+    CZemViewFrame frame;
+    ASSERT_TRUE(frame.open(&list, L"slide", 800, 600));
+    int item = -1;
+    for (int i = 0; i < list.lenGet() && item < 0; ++i)
+        item = list.typeGet(i) == GDX_VL ? i : -1;
+    ASSERT_GE(item, 0);
+    CZemVertexArray vl;
+    list.geomGet(vl, item);
+    const CZemPoint3d middle((vl[0].m_start.x + vl[0].m_end.x) / 2, (vl[0].m_start.y + vl[0].m_end.y) / 2, 0);
+    const CZemPoint3d at = middle * (list.zoomMtxGet() * (list.projMtxGet() * list.viewMtxGet()));
+    SendMessageW(frame.image().m_hWnd, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(static_cast<int>(at.x), static_cast<int>(at.y)));
+    pump();
+    wchar_t title[128] = {};
+    GetWindowTextW(frame.m_hWnd, title, 128);
+    EXPECT_NE(std::wstring(title).find(L"slide - picked group "), std::wstring::npos) << std::wstring(title);
+    frame.DestroyWindow();
+    pump();
+}
