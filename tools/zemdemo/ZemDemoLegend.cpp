@@ -5,6 +5,7 @@
 #include "ZemPatternFile.h"
 #include "ZemSupportPath.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cwchar>
 
@@ -17,6 +18,22 @@ constexpr double kSwatchWidth = 2500.0;
 constexpr double kSwatchHeight = 1250.0;
 constexpr double kRight = 12300.0;  // left edge of the column beside the swatches
 
+// The scale of a swatch's pattern: 20, or more where a step is so fine that
+// a swatch of this size would hold 80 steps or more; a pattern that fine is
+// drawn solid instead of hatched.
+double swatchScale(const CZemPatternFile::Lines& lines, double diagonal)
+{
+    double scale = 20.0;
+    for (int k = 0; k < lines.len(); ++k) {
+        for (int column = 3; column <= 4 && column < lines[k].len(); ++column) {
+            const double step = std::fabs(lines[k][column]);
+            if (step > 0.0)
+                scale = std::max(scale, diagonal / step / 80.0);
+        }
+    }
+    return scale;
+}
+
 }  // namespace
 
 bool CZemDemoLegend::build(std::wstring& error)
@@ -24,7 +41,7 @@ bool CZemDemoLegend::build(std::wstring& error)
     const CZemDrawingWriter::Pen frame = CZemDrawingWriter::pen(kInk, 2);
     m_out.group(1);
     m_out.rect(frame, 0, 0, 17500, 11000);
-    m_out.text(L"PATTERNS, POINTS, LINES AND TEXT", CZemPoint3d(300, 10750, 0), 380, 0.0, L"TL", kInk);
+    m_out.text(L"PATTERNS, POINTS, LINES AND TEXT", CZemPoint3d(300, 10750, 0), 300, 0.0, L"TL", kInk);
     if (!patterns(error))
         return false;
     points();
@@ -57,7 +74,8 @@ bool CZemDemoLegend::patterns(std::wstring& error)
         CZemArrayTempl<CZemVertexArray> rings;
         rings.append(CZemDrawingWriter::rectangle(x0, y0, x0 + kSwatchWidth, y1));
         rings.append(CZemDrawingWriter::circle(CZemPoint3d(x0 + kSwatchWidth / 2.0, (y0 + y1) / 2.0, 0), 250.0));
-        m_out.region(GDX_HATCH | GDX_EDGE, rings, edge, kBrick, CZemHatchProp(file.name(i), 0.0, 20.0));
+        const double scale = swatchScale(file.lines(i), std::hypot(kSwatchWidth, y1 - y0));
+        m_out.region(GDX_HATCH | GDX_EDGE, rings, edge, kBrick, CZemHatchProp(file.name(i), 0.0, scale));
         m_out.text(file.name(i), CZemPoint3d(x0 + kSwatchWidth / 2.0, y0 - 100.0, 0), 200, 0.0, L"TC", kInk);
     }
     return true;
@@ -94,7 +112,7 @@ void CZemDemoLegend::lineTypes()
         {L"dashed 1,1,0", CZemDrawingWriter::pen(kInk, 1, {1.0, 1.0, 0.0}, 12.0)},
         {L"dash dot 1,1,1", CZemDrawingWriter::pen(kAxis, 1, {1.0, 1.0, 1.0}, 12.0)},
         {L"dotted 0,0,1", CZemDrawingWriter::pen(kInk, 1, {0.0, 0.0, 1.0}, 20.0)},
-        {L"200,-60,0,-60,0,-60", CZemDrawingWriter::pen(kDimension, 1, {200.0, -60.0, 0.0, -60.0, 0.0, -60.0}, 1.0)}};
+        {L"dash dot dot", CZemDrawingWriter::pen(kDimension, 1, {200.0, -60.0, 0.0, -60.0, 0.0, -60.0}, 1.0)}};
     for (int i = 0; i < 5; ++i) {
         const double y = 6900.0 - i * 550.0;
         CZemVertexArray vl;
@@ -114,7 +132,7 @@ void CZemDemoLegend::alignments()
     const wchar_t* words[3][3] = {{L"TL", L"TC", L"TR"}, {L"CL", L"CC", L"CR"}, {L"BL", L"BC", L"BR"}};
     for (int row = 0; row < 3; ++row) {
         for (int column = 0; column < 3; ++column) {
-            const CZemPoint3d at(kRight + 700.0 + column * 1600.0, 3400.0 - row * 700.0, 0.0);
+            const CZemPoint3d at(kRight + 700.0 + column * 1600.0, 3500.0 - row * 600.0, 0.0);
             m_out.marker(at, 2, 200.0, kAxis);
             m_out.text(words[row][column], at, 260, 0.0, words[row][column], kInk);
         }
@@ -125,13 +143,13 @@ void CZemDemoLegend::alignments()
 void CZemDemoLegend::turnedTexts()
 {
     m_out.group(6);
-    const CZemPoint3d centre(kRight + 100.0, 350.0, 0.0);
+    const CZemPoint3d centre(kRight + 200.0, 200.0, 0.0);
     m_out.marker(centre, 32 | 0, 150.0, kAxis);
     for (int degrees = 0; degrees <= 90; degrees += 30) {
         wchar_t text[24];
         std::swprintf(text, 24, L"turned %d", degrees);
         const double angle = degrees * kPi / 180.0;
-        m_out.text(text, centre + CZemVector3d(250.0 * std::cos(angle), 250.0 * std::sin(angle), 0.0), 200, angle,
+        m_out.text(text, centre + CZemVector3d(450.0 * std::cos(angle), 450.0 * std::sin(angle), 0.0), 160, angle,
                    L"CL", kInk);
     }
     m_out.text(L"Gr\u00FC\u00DFe \u00C4\u00D6\u00DC \u00E4\u00F6\u00FC \u00B1 \u00B2 \u00B3 \u00BC \u00BD \u00BE",

@@ -42,7 +42,7 @@ constexpr Room kRooms[] = {
     {L"KITCHEN", {5240, 5000, kWidth - kOuter, kDepth - kOuter}, 7400, 6100},
     {L"BEDROOM", {5240, kOuter, kWidth - kOuter, 4885}, 8400, 1800},
     {L"HALL", {kOuter, kOuter, 2800, 3385}, 2080, 2500},
-    {L"BATH", {2915, kOuter, 5000, 3385}, 3950, 2100}};
+    {L"BATH", {2915, kOuter, 5000, 3385}, 3950, 1900}};
 
 void enterRegions(CZemDrawingWriter& out, const CZemRectUnion& parts, unsigned long flags,
                   const CZemDrawingWriter::Pen& edge, unsigned long fill, const CZemHatchProp& hatch)
