@@ -17,8 +17,8 @@ public:
 template <class T>
 class CZemArrayOf : public CZemArray {
 public:
-    int len() const override { return m_items.len(); }
-    int setLogicalLength(int n) override { return m_items.setLogicalLength(n); }
+    int len() const final { return m_items.len(); }
+    int setLogicalLength(int n) final { return m_items.setLogicalLength(n); }
     bool isEmpty() const { return m_items.len() == 0; }
 
     T& operator[](int i) { return m_items[i]; }

@@ -11,12 +11,6 @@ CZemPoint3d& CZemPoint3d::set(double px, double py, double pz) {
     return *this;
 }
 
-CZemPoint3d CZemPoint3d::operator*(const double (*m)[4]) const {
-    return CZemPoint3d(m[0][0] * x + m[0][1] * y + m[0][2] * z + m[0][3],
-                       m[1][0] * x + m[1][1] * y + m[1][2] * z + m[1][3],
-                       m[2][0] * x + m[2][1] * y + m[2][2] * z + m[2][3]);
-}
-
 CZemPoint3d& CZemPoint3d::operator*=(const double (*m)[4]) { return *this = *this * m; }
 
 CZemPoint3d& CZemPoint3d::operator+=(const CZemVector3d& v) { return set(x + v.x, y + v.y, z + v.z); }

@@ -117,3 +117,21 @@ bool CZemGDX::ColorTabSet(GDX_CMODE m, const CZemColor& c) {
     m_colorTab[static_cast<int>(m) - 1] = color;
     return true;
 }
+
+// The geometry of an item lives in its own heap block, which the processor
+// cannot foresee from a walk along the items. A full pass at item i asks for
+// the first vertices of the line or outer contour of an item some way ahead,
+// so that they arrive while the items in between are measured.
+void CZemGDX::prefetchAhead(int i) const {
+    if (i + 24 < lenGet()) prefetchItem(i + 24, 8);
+    if (i + 12 >= lenGet()) return;
+    const CZemDisplayItem& item = itemAt(i + 12);
+    const CZemVertexArray& vl = item.m_type == GDX_REG ? item.m_regl[0] : item.m_vl;
+    const char* vertices = reinterpret_cast<const char*>(vl.items().data());
+    for (int line = 0; line < 5; ++line) __builtin_prefetch(vertices + 64 * line);
+}
+
+void CZemGDX::prefetchItem(int i, int lines) const {
+    const char* bytes = reinterpret_cast<const char*>(&itemAt(i));
+    for (int line = 0; line < lines; ++line) __builtin_prefetch(bytes + 64 * line);
+}

@@ -200,6 +200,9 @@ protected:
 
 private:
     const CZemDisplayItem& itemAt(int i) const { return m_displayList[i]; }
+    void prefetchAhead(int i) const;
+    // Asks for the first lines of item i, all of it by default.
+    void prefetchItem(int i, int lines = (sizeof(CZemDisplayItem) + 63) / 64) const;
     bool switchFlag(int i, unsigned long prop);
     void foldExtents(const CZemPoint3d& lo, const CZemPoint3d& hi);
     void foldVertexList(const CZemVertexArray& vl, const CZemMatrix3d& mtx);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <vector>
 
 namespace {
 
@@ -21,17 +22,29 @@ const double kPickTolerance = 5.0;
 
 bool finitePoint(const CZemPoint3d& p) { return std::isfinite(p.x) && std::isfinite(p.y) && std::isfinite(p.z); }
 
-// A straight vertex whose box, widened by the tolerance, leaves out w cannot
-// come within the tolerance: the nearest point lies in that box. The box is
-// widened a little further, so that rounding never rejects a vertex that
-// lotp would find in reach; whatever is not rejected is measured by lotp.
-bool outOfReach(const CZemVertex& v, const CZemPoint3d& w) {
-    if (!finitePoint(v.m_start) || !finitePoint(v.m_end) || !finitePoint(w)) return false;
-    const double reach = kPickTolerance * (1.0 + 1e-9) +
-                         1e-9 * (std::fabs(w.x) + std::fabs(w.y) + std::fabs(w.z));
+// The target of a pick in list space, with the reach of the box test: the
+// tolerance widened a little further, so that rounding never rejects a
+// vertex that lotp would find in reach.
+struct PickTarget {
+    explicit PickTarget(const CZemPoint3d& p)
+        : w(p),
+          finite(finitePoint(p)),
+          reach(kPickTolerance * (1.0 + 1e-9) + 1e-9 * (std::fabs(p.x) + std::fabs(p.y) + std::fabs(p.z))) {}
+
+    CZemPoint3d w;
+    bool finite;
+    double reach;
+};
+
+// A straight segment from a to b whose box, widened by the reach, leaves out
+// the target cannot come within the tolerance: the nearest point lies in
+// that box. Segments or targets that are not finite are never rejected here;
+// whatever is not rejected is measured by lotp.
+bool outOfReach(const CZemPoint3d& a, const CZemPoint3d& b, const PickTarget& t) {
     for (int c = 0; c < 3; ++c) {
-        const double a = v.m_start[c], b = v.m_end[c];
-        if (w[c] < std::min(a, b) - reach || w[c] > std::max(a, b) + reach) return true;
+        if (t.w[c] < std::min(a[c], b[c]) - t.reach || t.w[c] > std::max(a[c], b[c]) + t.reach) {
+            return t.finite && finitePoint(a) && finitePoint(b);
+        }
     }
     return false;
 }
@@ -46,27 +59,28 @@ bool verticesNear(const CZemVertexArray& vl, const CZemPoint3d& w) {
 // A list with arcs goes through a transformed copy, which keeps the sense of
 // its arcs under a mirroring matrix; straight vertices are transformed one by
 // one and measured unless they are plainly out of reach.
-bool vertexListNear(const CZemVertexArray& vl, const CZemMatrix3d& mtx, const CZemPoint3d& w) {
+bool vertexListNear(const CZemVertexArray& vl, const CZemMatrix3d& mtx, const PickTarget& t) {
     for (int k = 0; k < vl.len(); ++k) {
-        if (vl[k].m_bulge != 0.0) return verticesNear(vl.getTransformedCopy(mtx), w);
+        if (vl[k].m_bulge != 0.0) return verticesNear(vl.getTransformedCopy(mtx), t.w);
     }
     for (int k = 0; k < vl.len(); ++k) {
-        const CZemVertex vertex(vl[k].m_start * mtx, vl[k].m_end * mtx, 0.0);
-        if (!outOfReach(vertex, w) && vertex.lotp(w).distanceTo(w) <= kPickTolerance) return true;
+        const CZemPoint3d a = vl[k].m_start * mtx, b = vl[k].m_end * mtx;
+        if (outOfReach(a, b, t)) continue;
+        if (CZemVertex(a, b, 0.0).lotp(t.w).distanceTo(t.w) <= kPickTolerance) return true;
     }
     return false;
 }
 
 // The outer contour of a region is taken with the writing index, so an empty
 // region list gains one empty contour. Text and pictures are never picked.
-bool itemNear(CZemDisplayItem& item, const CZemPoint3d& w) {
+bool itemNear(CZemDisplayItem& item, const PickTarget& t) {
     switch (item.m_type) {
     case GDX_VL:
-        return vertexListNear(item.m_vl, item.m_mtx, w);
+        return vertexListNear(item.m_vl, item.m_mtx, t);
     case GDX_REG:
-        return vertexListNear(item.m_regl[0], item.m_mtx, w);
+        return vertexListNear(item.m_regl[0], item.m_mtx, t);
     case GDX_PT:
-        return (item.m_pt * item.m_mtx).distanceTo(w) <= kPickTolerance;
+        return (item.m_pt * item.m_mtx).distanceTo(t.w) <= kPickTolerance;
     default:
         return false;
     }
@@ -81,32 +95,49 @@ bool CZemGDX::displListSort() {
 }
 
 // A stable counting sort by layer: position k of the result names the item
-// that goes to k.
+// that goes to k. Each item is looked at once; its layer is kept for the
+// second pass.
 CZemArrayTempl<int> CZemGDX::drawingOrder() const {
     const int n = lenGet();
+    std::vector<unsigned char> layers(static_cast<std::size_t>(n));
     int start[6] = {0, 0, 0, 0, 0, 0};
-    for (int i = 0; i < n; ++i) ++start[drawingLayer(itemAt(i)) + 1];
+    for (int i = 0; i < n; ++i) {
+        if (i + 16 < n) prefetchItem(i + 16, 1);
+        layers[i] = static_cast<unsigned char>(drawingLayer(itemAt(i)));
+        ++start[layers[i] + 1];
+    }
     for (int layer = 1; layer < 6; ++layer) start[layer] += start[layer - 1];
     CZemArrayTempl<int> order;
     order.setLogicalLength(n);
-    for (int i = 0; i < n; ++i) order[start[drawingLayer(itemAt(i))]++] = i;
+    for (int i = 0; i < n; ++i) order[start[layers[i]]++] = i;
     return order;
 }
 
 // Position k receives the item that stood at order[k]. The items move
 // bitwise, as their array moves them, so reordering copies no geometry. Each
 // cycle of the permutation is walked once, with one item's bytes parked in a
-// buffer.
+// buffer. A cycle jumps about the list where the processor cannot follow, so
+// the walk asks for the item a few steps further along its cycle ahead of
+// time.
 void CZemGDX::reorder(const CZemArrayTempl<int>& order) {
     const int n = order.len();
-    CZemArrayTempl<int> from(order);
+    std::vector<int> from(order.data(), order.data() + n);
     alignas(CZemDisplayItem) unsigned char parked[sizeof(CZemDisplayItem)];
     for (int first = 0; first < n; ++first) {
+        if (first + 4 < n && from[first + 4] >= 0 && from[first + 4] != first + 4) {
+            prefetchItem(first + 4);
+            prefetchItem(from[first + 4]);
+        }
         if (from[first] < 0 || from[first] == first) continue;
         std::memcpy(parked, static_cast<void*>(&m_displayList[first]), sizeof(CZemDisplayItem));
-        int to = first;
+        int to = first, ahead = from[first];
+        for (int step = 0; step < 4 && ahead != first; ++step) ahead = from[ahead];
         while (from[to] != first) {
             const int source = from[to];
+            if (ahead != first) {
+                prefetchItem(ahead);
+                ahead = from[ahead];
+            }
             std::memcpy(static_cast<void*>(&m_displayList[to]), static_cast<void*>(&m_displayList[source]),
                         sizeof(CZemDisplayItem));
             from[to] = -1;
@@ -121,14 +152,15 @@ void CZemGDX::reorder(const CZemArrayTempl<int>& order) {
 // the one drawn on top, however near another one lies.
 int CZemGDX::imageItemGet(const CZemPoint3d& p) {
     if (lenGet() == 0) return -1;
-    const CZemPoint3d w = imagePtWc(p);
+    const PickTarget target(imagePtWc(p));
     // Sorted and then reversed, in one move of each item.
     CZemArrayTempl<int> order = drawingOrder();
     order.revert();
     reorder(order);
     for (int i = 0; i < lenGet(); ++i) {
+        prefetchAhead(i);
         CZemDisplayItem& item = m_displayList[i];
-        if (!itemNear(item, w)) continue;
+        if (!itemNear(item, target)) continue;
         if (item.m_stack.isEmpty()) item.m_stack.append(0);
         return item.m_stack[0];
     }

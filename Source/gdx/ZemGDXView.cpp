@@ -25,6 +25,7 @@ bool CZemGDX::projMtxSet(const CZemMatrix3d& m) {
     CZemPoint3d lo, hi;
     int counted = 0;
     for (int i = 0; i < lenGet(); ++i) {
+        prefetchAhead(i);
         CZemDisplayItem& item = m_displayList[i];
         if (item.m_flags & GDX_NOEXT) continue;
         if (++counted == 1 || !(item.m_mtx == lastMtx) || !(item.m_extMtx == lastExtMtx)) {
