@@ -20,11 +20,7 @@ protected:
     }
 };
 
-CZemDataItem* colorNode(const wchar_t* name) {
-    CZemString path = L"KAL_MENU\\COLOR\\";
-    path += name;
-    return cfg_get(path);
-}
+void setRoot(const wchar_t* key, const wchar_t* value) { dataItemSet(cfg_dir_make(nullptr), &CZemDataKey().set(key), value); }
 
 }  // namespace
 
@@ -38,7 +34,6 @@ TEST_F(Config, LoadsFromTheNamedFileElseBesideTheLibrary) {
     CZemString text;
     EXPECT_TRUE(cfgRead(L"CURVER", text) && text == L"7");
     EXPECT_EQ(cfg_get(L"_APPL"), nullptr);
-
     datatest::setEnv("ZEM_CONFIG", nullptr);
     cfgReset();
     EXPECT_TRUE(cfgRead(L"_APPL", text) && text == L"KAL") << "zem.cfg beside the library";
@@ -48,102 +43,80 @@ TEST_F(Config, LoadsFromTheNamedFileElseBesideTheLibrary) {
     datatest::DumpCapture dump;
     EXPECT_EQ(cfg_get(L"_APPL"), nullptr) << "a malformed file leaves the configuration empty";
     EXPECT_NE(datatest::DumpCapture::text().find(L"zem.cfg"), std::wstring::npos);
-
     EXPECT_TRUE(cfgLoad(datatest::widen(folder + "/named.cfg").c_str()));
     EXPECT_FALSE(cfgLoad(datatest::widen(folder + "/missing.cfg").c_str()));
     EXPECT_NE(cfg_get(L"CURVER"), nullptr) << "a failed load keeps the configuration";
     dataItemSet(cfg_dir_make(L"KAL_MENU"), &CZemDataKey().set(L"X"), 1);
     EXPECT_TRUE(cfgData()->save());
     std::unique_ptr<CZemDtaFilePointer> saved(zemDtaOpenFile(datatest::widen(folder + "/named.cfg").c_str(), 0));
-    ASSERT_NE(saved, nullptr);
-    EXPECT_NE(saved->get(&CZemDataKey().set(L"KAL_MENU\\X")), nullptr);
+    EXPECT_TRUE(saved && saved->get(&CZemDataKey().set(L"KAL_MENU\\X")));
 }
 
 TEST_F(Config, DirectoriesAreMadeOnTheWay) {
-    CZemDataItem* outline = cfg_get(L"*ZEM_OUTLINE*");
-    EXPECT_EQ(outline, nullptr);
-    outline = cfg_dir_make(L"*ZEM_OUTLINE*");
-    ASSERT_NE(outline, nullptr);
-    EXPECT_TRUE(outline->isDir());
-    EXPECT_EQ(cfg_get(L"*ZEM_OUTLINE*"), outline);
+    EXPECT_EQ(cfg_get(L"*ZEM_OUTLINE*"), nullptr);
+    CZemDataItem* outline = cfg_dir_make(L"*ZEM_OUTLINE*");
+    EXPECT_TRUE(outline && outline->isDir() && cfg_get(L"*ZEM_OUTLINE*") == outline);
     dataItemSet(cfg_dir_make(nullptr), &CZemDataKey().set(L"A"), 1);
-    CZemDataItem* a = cfg_dir_make(L"A\\B");
-    ASSERT_NE(a, nullptr);
+    EXPECT_NE(cfg_dir_make(L"A\\B"), nullptr);
     EXPECT_TRUE(cfg_get(L"A")->isDir()) << "a value on the way became a directory";
-    CZemDataKey key;
-    key.set(RTSTR, L"*WALL_EDIT*", RTSTR, L"BT", 0);
     dataItemSet(cfg_dir_make(L"*WALL_EDIT*"), &CZemDataKey().set(L"BT"), 3);
+    CZemDataKey key;
     int bt = 0;
-    ASSERT_NE(cfg_get(&key), nullptr);
-    EXPECT_TRUE(cfg_get(&key)->get(bt, nullptr));
-    EXPECT_EQ(bt, 3);
+    EXPECT_TRUE(cfg_get(&key.set(RTSTR, L"*WALL_EDIT*", RTSTR, L"BT", 0))->get(bt, nullptr) && bt == 3);
 }
 
 TEST_F(Config, ColoursReadFromIndexTextOrDirectory) {
     CZemColor color;
     color.setColorIndex(3);
     EXPECT_FALSE(color_from_cfg(color, nullptr));
-    EXPECT_EQ(color.colorIndex(), 3) << "a null item leaves the colour";
-
     CZemDataItem* menu = cfg_dir_make(L"KAL_MENU\\COLOR");
+    const auto from = [&](const wchar_t* key, const wchar_t* text) {
+        dataItemSet(menu, &CZemDataKey().set(key), text);
+        return color_from_cfg(color, menu->get(&CZemDataKey().set(key)));
+    };
+    EXPECT_TRUE(from(L"AXIS", L" 255, 128 ,0") && color.oleColor() == 0x0080FFul) << "R 255, G 128, B 0 as a Windows colour";
+    EXPECT_TRUE(from(L"AUX", L"#0080fF") && color.oleColor() == 0xFF8000ul);
     dataItemSet(menu, &CZemDataKey().set(L"BASE"), 5);
-    dataItemSet(menu, &CZemDataKey().set(L"AXIS"), L" 255, 128 ,0");
-    dataItemSet(menu, &CZemDataKey().set(L"AUX"), L"#0080fF");
+    EXPECT_TRUE(color_from_cfg(color, menu->get(&CZemDataKey().set(L"BASE"))) && color.colorIndex() == 5);
     dataItemSet(menu, &CZemDataKey().set(L"REFER\\COLOR"), 1);
     dataItemSet(menu, &CZemDataKey().set(L"REFER\\RGB"), L"65280");
     dataItemSet(menu, &CZemDataKey().set(L"REFER\\TBL"), L"RAL");
-    dataItemSet(menu, &CZemDataKey().set(L"HIGHLIGHT"), L"256,0,0");
-    dataItemSet(menu, &CZemDataKey().set(L"BACKGROUND"), 1.5);
-
-    ASSERT_TRUE(color_from_cfg(color, colorNode(L"BASE")));
-    EXPECT_EQ(color.colorIndex(), 5);
-    ASSERT_TRUE(color_from_cfg(color, colorNode(L"AXIS")));
-    EXPECT_EQ(color.oleColor(), 0x0080FFul) << "R 255, G 128, B 0 as a Windows colour";
-    ASSERT_TRUE(color_from_cfg(color, colorNode(L"AUX")));
-    EXPECT_EQ(color.oleColor(), 0xFF8000ul);
-    ASSERT_TRUE(color_from_cfg(color, colorNode(L"REFER")));
+    ASSERT_TRUE(color_from_cfg(color, menu->get(&CZemDataKey().set(L"REFER"))));
     EXPECT_EQ(color.kind(), CZemColor::byNames);
     EXPECT_EQ(color.oleColor(), 0x00FF00ul);
     EXPECT_TRUE(color.bookName() == L"RAL" && color.colorName() == L"RAL");
 
     color.setColorIndex(2);
-    EXPECT_FALSE(color_from_cfg(color, colorNode(L"HIGHLIGHT"))) << "256 is beyond a channel";
-    EXPECT_FALSE(color_from_cfg(color, colorNode(L"BACKGROUND"))) << "1.5 is no colour";
+    EXPECT_FALSE(from(L"HIGHLIGHT", L"256,0,0")) << "256 is beyond a channel";
+    dataItemSet(menu, &CZemDataKey().set(L"BACKGROUND"), 1.5);
+    EXPECT_FALSE(color_from_cfg(color, menu->get(&CZemDataKey().set(L"BACKGROUND")))) << "1.5 is no colour";
     EXPECT_EQ(color.colorIndex(), 2);
 }
 
 TEST_F(Config, FilesAreFoundOnTheSupportPath) {
     const std::string folder = datatest::freshFolder("SupportPath");
-    std::filesystem::create_directories(folder + "/one");
-    std::filesystem::create_directories(folder + "/two");
-    std::filesystem::create_directories(folder + "/help");
+    for (const char* sub : {"/one", "/two", "/help"}) std::filesystem::create_directories(folder + sub);
     datatest::writeBytes(folder + "/two/acad.pat", "*A\n");
     datatest::writeBytes(folder + "/one/acad.pat", "*B\n");
     datatest::writeBytes(folder + "/two/only.txt", "x");
     datatest::writeBytes(folder + "/help/only.txt", "x");
-    const std::wstring one = datatest::widen(folder + "/one");
-    const std::wstring two = datatest::widen(folder + "/two");
-    dataItemSet(cfg_dir_make(nullptr), &CZemDataKey().set(L"SUPPORT"), (L" " + one + L" ;;" + two).c_str());
+    const std::wstring one = datatest::widen(folder + "/one"), two = datatest::widen(folder + "/two");
+    const std::wstring help = datatest::widen(folder + "/help");
+    setRoot(L"SUPPORT", (L" " + one + L" ;;" + two).c_str());
 
     CZemString path = L"untouched";
     EXPECT_FALSE(fileFind(L"missing.pat", path));
     EXPECT_TRUE(path == L"untouched");
-    ASSERT_TRUE(fileFind(L"acad.pat", path));
-    EXPECT_EQ(datatest::readBytes(std::filesystem::path(path.operator const wchar_t*()).string()), "*B\n")
-        << "the first folder wins";
-    ASSERT_TRUE(fileFind(L"only.txt", path));
-    EXPECT_TRUE(CZemString(path) == fsJoin(two.c_str(), L"only.txt"));
-    const std::wstring full = datatest::widen(folder + "/help/only.txt");
+    EXPECT_TRUE(fileFind(L"acad.pat", path) && path == fsJoin(one.c_str(), L"acad.pat")) << "the first folder wins";
+    EXPECT_TRUE(fileFind(L"only.txt", path) && path == fsJoin(two.c_str(), L"only.txt"));
+    const std::wstring full = help + L"/only.txt";
     EXPECT_TRUE(fileFind(full.c_str(), path) && path == full.c_str()) << "a name with its folder";
 
     CZemArrayTempl<CZemString> helpFolders;
-    helpFolders.append(datatest::widen(folder + "/help").c_str());
-    dataItemSet(cfg_dir_make(nullptr), &CZemDataKey().set(L"HELP"), helpFolders);
-    ASSERT_TRUE(help_find(L"only.txt", path));
-    EXPECT_TRUE(path == fsJoin(datatest::widen(folder + "/help").c_str(), L"only.txt"));
+    dataItemSet(cfg_dir_make(nullptr), &CZemDataKey().set(L"HELP"), helpFolders.append(help.c_str()));
+    EXPECT_TRUE(help_find(L"only.txt", path) && path == fsJoin(help.c_str(), L"only.txt"));
     EXPECT_TRUE(help_find(L"acad.pat", path)) << "help files are also looked for on the support path";
-
-    cfgLibraryDirSet(datatest::widen(folder + "/help").c_str());
-    dataItemSet(cfg_dir_make(nullptr), &CZemDataKey().set(L"SUPPORT"), L"");
+    cfgLibraryDirSet(help.c_str());
+    setRoot(L"SUPPORT", L"");
     EXPECT_TRUE(fileFind(L"only.txt", path)) << "the library folder comes last";
 }

@@ -23,47 +23,36 @@ void expectPoints(const CZemPoint3dArray& got, std::initializer_list<CZemPoint3d
 
 }  // namespace
 
-TEST(Intersect, LineAgainstACircleOfTwoArcs) {
+TEST(Intersect, JointsTangentsCornersAndEdgesCountOnce) {
     const CZemVertexArray c = circle(0, 0, 5);
     for (const unsigned mode : {0u, 3u}) {
-        expectPoints(line(-10, 3, 10, 3).intersectWith(c, mode), {{-4, 3, 0}, {4, 3, 0}});
         expectPoints(line(10, -3, -10, -3).intersectWith(c, mode), {{4, -3, 0}, {-4, -3, 0}});
-        // Through the two joints of the arcs: each counts once.
-        expectPoints(line(-10, 0, 10, 0).intersectWith(c, mode), {{-5, 0, 0}, {5, 0, 0}});
-        expectPoints(line(0, -9, 0, 9).intersectWith(c, mode), {{0, -5, 0}, {0, 5, 0}});
-        expectPoints(line(0, 0, 0, 9).intersectWith(c, mode), {{0, 5, 0}});
+        expectPoints(line(0, -9, 0, 9).intersectWith(c, mode), {{0, -5, 0}, {0, 5, 0}});  // through the arcs' joints
     }
     // A tangent touches: a meeting point, but no crossing.
     expectPoints(line(-10, 5, 10, 5).intersectWith(c, 0), {{0, 5, 0}});
-    EXPECT_EQ(line(-10, 5, 10, 5).intersectWith(c, 3).len(), 0);
     EXPECT_EQ(line(-10, -5, 10, -5).intersectWith(c, 3).len(), 0);
     CZemPoint3dArray out;
     out.append(CZemPoint3d(1, 1, 1));
     EXPECT_FALSE(line(-10, 6, 10, 6).intersectWith(out, c, 3));
     EXPECT_EQ(out.len(), 0) << "the output is replaced";
-    // Two circles meet at (3, +-4).
     expectPoints(circle(0, 0, 5).intersectWith(circle(6, 0, 5), 0), {{3, 4, 0}, {3, -4, 0}});
-}
 
-TEST(Intersect, LinesThroughCornersAndAlongEdges) {
     const CZemVertexArray diamond = polygon({{2, 0, 0}, {4, 2, 0}, {2, 4, 0}, {0, 2, 0}});
     expectPoints(line(-1, 2, 5, 2).intersectWith(diamond, 3), {{0, 2, 0}, {4, 2, 0}});
     EXPECT_EQ(line(-1, 4, 5, 4).intersectWith(diamond, 3).len(), 0) << "touching the top corner";
-    EXPECT_EQ(line(-1, 0, 5, 0).intersectWith(diamond, 3).len(), 0) << "touching the bottom corner";
     expectPoints(line(-1, 4, 5, 4).intersectWith(diamond, 0), {{2, 4, 0}});
-
-    const CZemVertexArray square = polygon({{0, 0, 0}, {4, 0, 0}, {4, 4, 0}, {0, 4, 0}});
     // Along an edge: the square lies on the left of the bottom edge run to
     // +x, so nothing crosses; on the right of the top edge, so both ends.
-    EXPECT_EQ(line(-1, 0, 5, 0).intersectWith(square, 3).len(), 0);
-    expectPoints(line(-1, 4, 5, 4).intersectWith(square, 3), {{0, 4, 0}, {4, 4, 0}});
-    expectPoints(line(-1, 0, 5, 0).intersectWith(square, 0), {{0, 0, 0}, {4, 0, 0}});
+    const CZemVertexArray sq = square(0, 0, 4);
+    EXPECT_EQ(line(-1, 0, 5, 0).intersectWith(sq, 3).len(), 0);
+    expectPoints(line(-1, 4, 5, 4).intersectWith(sq, 3), {{0, 4, 0}, {4, 4, 0}});
+    expectPoints(line(-1, 0, 5, 0).intersectWith(sq, 0), {{0, 0, 0}, {4, 0, 0}});
     // A stair whose middle edge lies on the line is crossed once, at its start.
     const CZemVertexArray stair = polygon({{0, 0, 0}, {6, 0, 0}, {6, 2, 0}, {3, 2, 0}, {3, 4, 0}, {0, 4, 0}});
     expectPoints(line(-1, 2, 7, 2).intersectWith(stair, 3), {{0, 2, 0}, {6, 2, 0}});
-    // Lines that share a stretch meet at its two ends; bad points meet nothing.
     expectPoints(line(0, 0, 4, 0).intersectWith(line(2, 0, 6, 0), 0), {{2, 0, 0}, {4, 0, 0}});
-    EXPECT_EQ(line(std::nan(""), 0, 10, 0).intersectWith(square, 3).len(), 0);
+    EXPECT_EQ(line(std::nan(""), 0, 10, 0).intersectWith(sq, 3).len(), 0);
     EXPECT_EQ(line(-10, 2, 10, 2).intersectWith(CZemVertexArray(), 3).len(), 0);
 }
 

@@ -43,18 +43,14 @@ void checkForm(const Expected& e, const CZemVector3d& base) {
     for (const double v : e.parameters) p.append(v);
     const CZemVertexArray vl = ZEM::g_outline(e.form, base, p);
     ASSERT_GT(vl.len(), 1) << "form " << e.form;
-    EXPECT_TRUE(vl.isClosed()) << "form " << e.form;
-    EXPECT_TRUE(vl.isContinuous()) << "form " << e.form;
-    EXPECT_EQ(vl.normal(), CZemVector3d::kZAxis);
+    EXPECT_TRUE(vl.isClosed() && vl.isContinuous() && vl.normal() == CZemVector3d::kZAxis) << "form " << e.form;
     CZemVertexArray atOrigin = vl;
     atOrigin.move(-base);
     EXPECT_NEAR(areaOf(atOrigin), e.area, 1e-9) << "form " << e.form << ", counter-clockwise";
     CZemPoint3d lo, hi;
     ASSERT_TRUE(vl.extents(lo, hi));
-    EXPECT_NEAR(lo.x, e.x0 + base.x, 1e-9) << "form " << e.form;
-    EXPECT_NEAR(lo.y, e.y0 + base.y, 1e-9) << "form " << e.form;
-    EXPECT_NEAR(hi.x, e.x1 + base.x, 1e-9) << "form " << e.form;
-    EXPECT_NEAR(hi.y, e.y1 + base.y, 1e-9) << "form " << e.form;
+    EXPECT_NEAR(lo.distanceTo(CZemPoint3d(e.x0, e.y0, 0) + base), 0.0, 1e-9) << "form " << e.form;
+    EXPECT_NEAR(hi.distanceTo(CZemPoint3d(e.x1, e.y1, 0) + base), 0.0, 1e-9) << "form " << e.form;
 }
 
 }  // namespace
@@ -89,9 +85,7 @@ TEST(Outline, EveryFormHasItsAreaAndBox) {
     // oblong, a ring as wide as its radius a sector.
     checkForm({4, {10, 4, 2}, 24 + 4 * kPi, 0, 0, 10, 4}, CZemVector3d());
     checkForm({21, {3, 3, 90}, 9 * kPi / 4, 0, 0, 3, 3}, CZemVector3d());
-}
-
-TEST(Outline, NegativeSizesMirrorAndStayCounterClockwise) {
+    // Negative sizes mirror and stay counter-clockwise.
     checkForm({1, {-4, 3}, 12, -4, 0, 0, 3}, CZemVector3d(1, 1, 0));
     checkForm({4, {-10, -6, 1}, 56 + kPi, -10, -6, 0, 0}, CZemVector3d());
     checkForm({8, {10, 2, -kPi / 2}, 11 * kPi, -1, -11, 11, 1}, CZemVector3d());
@@ -99,8 +93,7 @@ TEST(Outline, NegativeSizesMirrorAndStayCounterClockwise) {
 
 TEST(Outline, SizesThatMakeNoShapeGiveNothing) {
     const CZemVector3d o;
-    EXPECT_EQ(ZEM::g_outline(0, o, params({4, 3})).len(), 0);
-    EXPECT_EQ(ZEM::g_outline(22, o, params({4, 3})).len(), 0);
+    EXPECT_EQ(ZEM::g_outline(0, o, params({4, 3})).len() + ZEM::g_outline(22, o, params({4, 3})).len(), 0);
     EXPECT_EQ(ZEM::g_outline(1, o, params({4})).len(), 0) << "a missing height reads 0";
     EXPECT_EQ(ZEM::g_outline(1, o, params({4, std::nan("")})).len(), 0);
     EXPECT_EQ(ZEM::g_outline(3, o, params({4, 6})).len(), 0) << "wider than long";

@@ -19,27 +19,22 @@ std::vector<short> codesOf(const resbuf* rb) {
 }
 
 CZemVertexArray squareWithArc() {
-    CZemVertexArray vl;
-    vl.append(CZemVertex(CZemPoint3d(0, 0, 0), CZemPoint3d(10, 0, 0), 0.0));
+    CZemVertexArray vl(CZemVertex(CZemPoint3d(0, 0, 0), CZemPoint3d(10, 0, 0), 0.0));
     vl.append(CZemVertex(CZemPoint3d(10, 0, 0), CZemPoint3d(10, 10, 0), std::tan(std::atan(1.0) / 2)));
-    vl.append(CZemVertex(CZemPoint3d(10, 10, 0), CZemPoint3d(0, 0, 0), -0.25));
-    vl.setNormal(CZemVector3d(0, 0, -1));
+    vl.append(CZemVertex(CZemPoint3d(10, 10, 0), CZemPoint3d(0, 0, 0), -0.25)).setNormal(CZemVector3d(0, 0, -1));
     return vl;
 }
 
 void expectSamePolyline(const CZemVertexArray& a, const CZemVertexArray& b) {
     ASSERT_EQ(a.len(), b.len());
     EXPECT_EQ(a.normal(), b.normal());
-    for (int k = 0; k < a.len(); ++k) {
-        EXPECT_EQ(a[k].m_start, b[k].m_start) << "vertex " << k;
-        EXPECT_EQ(a[k].m_end, b[k].m_end) << "vertex " << k;
-        EXPECT_EQ(a[k].m_bulge, b[k].m_bulge) << "vertex " << k;
-    }
+    for (int k = 0; k < a.len(); ++k)
+        EXPECT_TRUE(a[k].m_start == b[k].m_start && a[k].m_end == b[k].m_end && a[k].m_bulge == b[k].m_bulge) << k;
 }
 
 }  // namespace
 
-TEST(Resbuf, APolylineIsOneListOfNormalAndVertexTriples) {
+TEST(Resbuf, APolylineIsOneListOfNormalAndVertexTriplesAndOtherListsSurvive) {
     const CZemVertexArray vl = squareWithArc();
     CSmartResbuf chain(mkResbuf(vl));
     const std::vector<short> vertex = {RTLB, RT3DPOINT, RT3DPOINT, RTREAL, RTLE};
@@ -47,84 +42,48 @@ TEST(Resbuf, APolylineIsOneListOfNormalAndVertexTriples) {
     for (int k = 0; k < 3; ++k) expected.insert(expected.end(), vertex.begin(), vertex.end());
     expected.push_back(RTLE);
     EXPECT_EQ(codesOf(chain), expected);
-
     resbuf* at = chain;
     CZemVertexArray back;
     fromRb(back, at);
     expectSamePolyline(back, vl);
     EXPECT_EQ(at, nullptr) << "reading moves behind the list";
-}
 
-TEST(Resbuf, EveryListKindSurvivesAChain) {
     const CZemArrayTempl<int> ints = CZemArrayTempl<int>().append(1).append(-32768).append(70000).append(INT_MIN);
     CSmartResbuf intChain(mkResbuf(ints));
     EXPECT_EQ(codesOf(intChain), (std::vector<short>{RTLB, RTSHORT, RTSHORT, RTLONG, RTLONG, RTLE}));
     CZemArrayTempl<int> intsBack;
     const resbuf* p = intChain;
-    ASSERT_TRUE(rbRead(p, intsBack));
-    ASSERT_EQ(intsBack.len(), 4);
+    ASSERT_TRUE(rbRead(p, intsBack) && intsBack.len() == 4);
     for (int k = 0; k < 4; ++k) EXPECT_EQ(intsBack[k], ints[k]);
-
-    CZemArrayTempl<CZemString> texts;
-    texts.append(L"T\u00FCr").append(L"").append(L"a\\b\"c\n");
-    CSmartResbuf textChain(mkResbuf(texts));
-    CZemArrayTempl<CZemString> textsBack;
-    p = textChain;
-    ASSERT_TRUE(rbRead(p, textsBack));
-    ASSERT_EQ(textsBack.len(), 3);
+    CZemArrayTempl<CZemString> texts, textsBack;
+    CSmartResbuf textChain(mkResbuf(texts.append(L"T\u00FCr").append(L"").append(L"a\\b\"c\n")));
+    ASSERT_TRUE(rbRead(p = textChain, textsBack) && textsBack.len() == 3);
     for (int k = 0; k < 3; ++k) EXPECT_TRUE(textsBack[k] == texts[k]);
-
-    CZemPoint3dArray points;
-    points.append(CZemPoint3d(1, 2, 3)).append(CZemPoint3d(-0.5, 1e300, 0));
-    CSmartResbuf pointChain(mkResbuf(points));
-    CZemPoint3dArray pointsBack;
-    p = pointChain;
-    ASSERT_TRUE(rbRead(p, pointsBack));
-    ASSERT_EQ(pointsBack.len(), 2);
-    EXPECT_EQ(pointsBack[1], points[1]);
-
-    double m[4][4];
+    double m[4][4], mBack[4][4] = {};
     for (int r = 0; r < 4; ++r)
         for (int c = 0; c < 4; ++c) m[r][c] = r * 4 + c + 0.125;
     CSmartResbuf matrixChain(mkResbuf(m));
-    double back[4][4] = {};
-    p = matrixChain;
-    ASSERT_TRUE(rbReadMatrix(p, back));
-    EXPECT_EQ(back[3][2], 14.125);
-    EXPECT_EQ(back[0][3], 3.125);
-}
+    ASSERT_TRUE(rbReadMatrix(p = matrixChain, mBack));
+    EXPECT_TRUE(mBack[3][2] == 14.125 && mBack[0][3] == 3.125);
 
-TEST(Resbuf, EmptyListsAreNilAndReadBackEmpty) {
-    CSmartResbuf none(mkResbuf(CZemVertexArray()));
-    EXPECT_EQ(codesOf(none), std::vector<short>{RTNIL});
     CSmartResbuf noInts(mkResbuf(CZemArrayTempl<int>()));
     EXPECT_EQ(codesOf(noInts), std::vector<short>{RTNIL});
-    CZemArrayTempl<int> ints;
-    ints.append(5);
-    const resbuf* p = noInts;
-    ASSERT_TRUE(rbRead(p, ints));
-    EXPECT_EQ(ints.len(), 0);
+    EXPECT_TRUE(rbRead(p = noInts, intsBack) && intsBack.len() == 0) << "an empty list is nil and reads back empty";
 }
 
 TEST(Resbuf, RegionListsReadFromTheHostAnswer) {
-    RegionLists regions;
+    RegionLists regions, back;
     CZemArrayTempl<CZemVertexArray> withHole;
     withHole.append(squareWithArc()).append(CZemVertexArray(CZemVertex(CZemPoint3d(2, 2, 0), CZemPoint3d(3, 3, 0), 1.0)));
     regions.append(withHole).append(CZemArrayTempl<CZemVertexArray>().append(squareWithArc()));
     CSmartResbuf chain(mkResbuf(regions));
-    EXPECT_EQ(static_cast<resbuf*>(chain)->restype, RTLB);
-
-    RegionLists back;
     resbuf* at = chain;
     fromRb(back, at, 0);
-    ASSERT_EQ(back.len(), 2);
-    ASSERT_EQ(back[0].len(), 2);
+    ASSERT_TRUE(back.len() == 2 && back[0].len() == 2);
     expectSamePolyline(back[0][1], withHole[1]);
     EXPECT_EQ(at, nullptr);
-
     fromRb(back, at = chain, 1);
     EXPECT_EQ(back.len(), 4) << "a non-zero flag appends";
-
     CSmartResbuf nil(mkResbuf(0.0, RTNIL));
     fromRb(back, at = nil, 0);
     EXPECT_EQ(back.len(), 0) << "an answer of nil holds no region";
@@ -150,17 +109,14 @@ TEST(Resbuf, MalformedInputIsSkippedAndReadsEmpty) {
     fromRb(regions, at = open, 0);
     EXPECT_EQ(regions.len(), 0);
     EXPECT_EQ(at, nullptr) << "a list that never ends runs to the end";
-
     // The vertex list needs exactly start, end and bulge.
     CSmartResbuf shortVertex(mkResbuf(0.0, RTLB));
-    shortVertex.append(mkResbuf(CZemVector3d(0, 0, 1)))
-        .append(rbToList(mkResbuf(CZemPoint3d())))
-        .append(mkResbuf(0.0, RTLE));
-    fromRb(vl, at = shortVertex);
+    shortVertex.append(mkResbuf(CZemVector3d(0, 0, 1))).append(rbToList(mkResbuf(CZemPoint3d()))).append(mkResbuf(0.0, RTLE));
+    fromRb(vl = squareWithArc(), at = shortVertex);
     EXPECT_EQ(vl.len(), 0);
 }
 
-TEST(Resbuf, NumbersTakeTheirCodeAndRange) {
+TEST(Resbuf, NumbersTakeTheirCodeAndRangeAndSmartChainsCopyDeep) {
     CSmartResbuf chain(mkResbuf(2.6, RTSHORT));
     chain.append(mkResbuf(1e9, RTSHORT)).append(mkResbuf(-2.5, RTLONG)).append(mkResbuf(7, RTREAL));
     const resbuf* p = chain;
@@ -168,31 +124,20 @@ TEST(Resbuf, NumbersTakeTheirCodeAndRange) {
     EXPECT_EQ(p->rbnext->resval.rint, 32767) << "clamped to 16 bits";
     EXPECT_EQ(p->rbnext->rbnext->resval.rlong, -3) << "halves round away from zero";
     EXPECT_EQ(p->rbnext->rbnext->rbnext->resval.rreal, 7.0);
-    EXPECT_EQ(mkResbuf(1.0, RTSTR), nullptr);
-    EXPECT_EQ(mkResbuf(L"x", RTREAL), nullptr);
-
+    EXPECT_TRUE(mkResbuf(1.0, RTSTR) == nullptr && mkResbuf(L"x", RTREAL) == nullptr);
     long long whole = 0;
     double real = 0;
     CSmartResbuf half(mkResbuf(0.5, RTREAL));
-    p = half;
-    EXPECT_FALSE(rbRead(p, whole)) << "0.5 is no whole number";
-    EXPECT_TRUE(rbRead(p, real));
-    EXPECT_EQ(real, 0.5);
-}
+    EXPECT_FALSE(rbRead(p = half, whole)) << "0.5 is no whole number";
+    EXPECT_TRUE(rbRead(p, real) && real == 0.5);
 
-TEST(Resbuf, SmartResbufOwnsCopiesAndAppends) {
     CSmartResbuf list(rbToList(mkResbuf(L"TEXT")));
     list.append(mkResbuf(2.5, RTREAL));
     EXPECT_EQ(codesOf(list), (std::vector<short>{RTLB, RTSTR, RTLE, RTREAL}));
     CSmartResbuf copy(list);
-    EXPECT_NE(static_cast<resbuf*>(copy), static_cast<resbuf*>(list));
-    EXPECT_TRUE(rbEqual(copy, list));
+    EXPECT_TRUE(static_cast<resbuf*>(copy) != static_cast<resbuf*>(list) && rbEqual(copy, list));
     copy.append(mkResbuf(1, RTSHORT));
     EXPECT_FALSE(rbEqual(copy, list));
-    resbuf* taken = list.release();
+    EXPECT_EQ(zemRelRb(list.release()), RTNORM);
     EXPECT_EQ(static_cast<resbuf*>(list), nullptr);
-    EXPECT_EQ(zemRelRb(taken), RTNORM);
-    CSmartResbuf empty;
-    empty.append(mkResbuf(1, RTSHORT));
-    EXPECT_EQ(codesOf(empty), std::vector<short>{RTSHORT});
 }

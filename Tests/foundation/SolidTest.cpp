@@ -71,8 +71,7 @@ TEST(Solid, BoxShowsNineEdgesAndHidesTheThreeAtItsBackCorner) {
     project(box, visible, hidden);
     const double c[8][3] = {{0, 0, 0}, {4, 0, 0}, {4, 2, 0}, {0, 2, 0}, {0, 0, 1}, {4, 0, 1}, {4, 2, 1}, {0, 2, 1}};
     const int edges[12][2] = {{0, 1}, {1, 2}, {2, 3}, {3, 0}, {4, 5}, {5, 6}, {6, 7}, {7, 4}, {0, 4}, {1, 5}, {2, 6}, {3, 7}};
-    ASSERT_EQ(9, visible.len());
-    ASSERT_EQ(3, hidden.len());
+    ASSERT_TRUE(visible.len() == 9 && hidden.len() == 3);
     for (const auto& e : edges) {
         // Faces +x, -y and +z face the viewer; corner 3, (0, 2, 0), joins the three others.
         const bool back = e[0] == 3 || e[1] == 3;
@@ -108,8 +107,7 @@ TEST(Solid, RoundWallsShowOnlyTheirOutlineEdges) {
     ASSERT_TRUE(cylinder.addPrism(form(2, 0, 0, 2), kNoHoles, 0, 2));
     Pieces visible, hidden;
     project(cylinder, visible, hidden);
-    EXPECT_EQ(2, upright(visible)) << "the two outline lines of the mantle";
-    EXPECT_EQ(0, upright(hidden));
+    EXPECT_TRUE(upright(visible) == 2 && upright(hidden) == 0) << "the two outline lines of the mantle";
     // The bottom circle hides its back half, give or take a chord of 10 degrees.
     double bottom = 0.0;
     for (int k = 0; k < 36; ++k)
@@ -122,15 +120,15 @@ TEST(Solid, RoundWallsShowOnlyTheirOutlineEdges) {
     CZemArrayTempl<CZemVertexArray> holes;
     ASSERT_TRUE(ring.addPrism(form(1, -3, -3, 6, 6), holes.append(form(2, 0, 0, 2)), 0, 1));
     project(ring, visible, hidden);
-    EXPECT_EQ(3, upright(visible)) << "three corners";
-    EXPECT_EQ(3, upright(hidden)) << "the back corner and the bore's two outline lines, behind the plate";
+    // Three corners in front; the back corner and the bore's two outline lines behind the plate.
+    EXPECT_TRUE(upright(visible) == 3 && upright(hidden) == 3);
 }
 
 TEST(Solid, RefusesWhatMakesNoBodyAndLivesInTheMapByKey) {
     CZem_Solid solid;
     CZemVertexArray open = form(1, 0, 0, 1, 1);
-    open.removeAt(3);
     CZemArrayTempl<CZemVertexArray> openHoles;
+    open.removeAt(3);
     EXPECT_FALSE(solid.addPrism(open, kNoHoles, 0, 1) || solid.addPrism(form(1, 0, 0, 1, 0), kNoHoles, 0, 1));
     EXPECT_FALSE(solid.addPrism(form(1, 0, 0, 1, 1), kNoHoles, 1, 1) || solid.addPrism(form(1, 0, 0, 1, 1), kNoHoles, 0, NAN));
     EXPECT_FALSE(solid.addPrism(form(1, 0, 0, 1, 1), openHoles.append(open), 0, 1));

@@ -20,89 +20,46 @@ std::wstring joined(const CZemArrayTempl<CZemString>& tokens) {
 
 }  // namespace
 
-TEST(TextUtil, AtoiReadsTheLeadingWholeNumberAndSaturates) {
-    EXPECT_EQ(ZEM::atoi(L"42"), 42);
-    EXPECT_EQ(ZEM::atoi(L"  -17abc"), -17);
-    EXPECT_EQ(ZEM::atoi(L"12.7"), 12);
-    EXPECT_EQ(ZEM::atoi(nullptr), 0);
-    EXPECT_EQ(ZEM::atoi(L"abc"), 0);
-    EXPECT_EQ(ZEM::atoi(L"- 3"), 0);
-    EXPECT_EQ(ZEM::atoi(L"99999999999999999999"), INT_MAX);
+TEST(TextUtil, NumbersAreReadFromTheFrontSaturatedAndCorrectlyRounded) {
+    EXPECT_TRUE(ZEM::atoi(L"  -17abc") == -17 && ZEM::atoi(L"12.7") == 12 && ZEM::atoi(L"- 3") == 0);
+    EXPECT_TRUE(ZEM::atoi(nullptr) == 0 && ZEM::atoi(L"99999999999999999999") == INT_MAX);
     EXPECT_EQ(ZEM::atoi(L"-2147483648"), INT_MIN);
-}
-
-TEST(TextUtil, AtofReadsTheLeadingNumberCorrectlyRounded) {
-    EXPECT_EQ(ZEM::atof(L"45.5\u00B0"), 45.5);
     EXPECT_EQ(ZEM::atof(L" -2,25 "), -2.25);
-    EXPECT_EQ(ZEM::atof(L"1e3x"), 1000.0);
-    EXPECT_EQ(ZEM::atof(L"1e"), 1.0);
-    EXPECT_EQ(ZEM::atof(L"0.1"), 0.1);
+    EXPECT_TRUE(ZEM::atof(L"1e3x") == 1000.0 && ZEM::atof(L"1e") == 1.0 && ZEM::atof(L"0.1") == 0.1);
     EXPECT_EQ(ZEM::atof(L"123456789012345678901234567890"), 123456789012345678901234567890.0);
     EXPECT_EQ(ZEM::atof(L"2.2250738585072014e-308"), 2.2250738585072014e-308);
-    EXPECT_EQ(ZEM::atof(nullptr), 0.0);
-    EXPECT_EQ(ZEM::atof(L"."), 0.0);
-    EXPECT_EQ(ZEM::atof(L"1e999"), HUGE_VAL);
-    EXPECT_EQ(ZEM::atof(L"-1e999999999999999999"), -HUGE_VAL);
-    EXPECT_EQ(ZEM::atof(L"1e-999"), 0.0);
-}
-
-TEST(TextUtil, ScanRealReportsHowMuchItRead) {
+    EXPECT_TRUE(ZEM::atof(nullptr) == 0.0 && ZEM::atof(L".") == 0.0 && ZEM::atof(L"1e-999") == 0.0);
+    EXPECT_TRUE(ZEM::atof(L"1e999") == HUGE_VAL && ZEM::atof(L"-1e999999999999999999") == -HUGE_VAL);
     double value = -7.0;
-    EXPECT_EQ(ZEM::scanReal(L"12.5abc", value), 4u);
-    EXPECT_EQ(value, 12.5);
-    EXPECT_EQ(ZEM::scanReal(L"1,5,3", value), 3u);
-    EXPECT_EQ(value, 1.5);
-    EXPECT_EQ(ZEM::scanReal(L"-2E+2'", value), 5u);
-    EXPECT_EQ(value, -200.0);
-    value = -7.0;
-    EXPECT_EQ(ZEM::scanReal(L"-", value), 0u);
-    EXPECT_EQ(ZEM::scanReal(L" 1", value), 0u);
-    EXPECT_EQ(ZEM::scanReal(nullptr, value), 0u);
-    EXPECT_EQ(value, -7.0);
+    EXPECT_TRUE(ZEM::scanReal(L"1,5,3", value) == 3u && value == 1.5);
+    EXPECT_TRUE(ZEM::scanReal(L"-2E+2'", value) == 5u && value == -200.0);
+    EXPECT_EQ(ZEM::scanReal(L"-", value) + ZEM::scanReal(L" 1", value) + ZEM::scanReal(nullptr, value), 0u);
+    EXPECT_EQ(value, -200.0) << "nothing read, nothing written";
 }
 
 TEST(TextUtil, StrTokSplitsPathsWithOrWithoutEmptyTokens) {
     CZemArrayTempl<CZemString> tokens;
-    EXPECT_TRUE(ZEM::strTok(L"KAL_MENU\\COLOR\\PDSIZE", L"\\", tokens, false));
-    EXPECT_EQ(joined(tokens), L"[KAL_MENU][COLOR][PDSIZE]");
-
-    EXPECT_TRUE(ZEM::strTok(L"\\a\\\\b\\", L"\\", tokens, false));
-    EXPECT_EQ(joined(tokens), L"[a][b]");
-    EXPECT_TRUE(ZEM::strTok(L"\\a\\\\b\\", L"\\", tokens, true));
-    EXPECT_EQ(joined(tokens), L"[][a][][b][]");
-
-    EXPECT_TRUE(ZEM::strTok(L"a b,c", L" ,", tokens, false));
-    EXPECT_EQ(joined(tokens), L"[a][b][c]");
-    EXPECT_TRUE(ZEM::strTok(L"a\\b", nullptr, tokens, false));
-    EXPECT_EQ(joined(tokens), L"[a\\b]");
-
+    EXPECT_TRUE(ZEM::strTok(L"\\a\\\\b\\", L"\\", tokens, false) && joined(tokens) == L"[a][b]");
+    EXPECT_TRUE(ZEM::strTok(L"\\a\\\\b\\", L"\\", tokens, true) && joined(tokens) == L"[][a][][b][]");
+    EXPECT_TRUE(ZEM::strTok(L"a b,c", L" ,", tokens, false) && joined(tokens) == L"[a][b][c]");
+    EXPECT_TRUE(ZEM::strTok(L"a\\b", nullptr, tokens, false) && joined(tokens) == L"[a\\b]");
     EXPECT_FALSE(ZEM::strTok(L"\\\\", L"\\", tokens, false));
-    EXPECT_EQ(tokens.len(), 0);
     tokens.append(CZemString(L"old"));
     EXPECT_FALSE(ZEM::strTok(nullptr, L"\\", tokens, true));
     EXPECT_EQ(tokens.len(), 0);
 }
 
-TEST(TextUtil, DumpFormatsWideArgumentsIntoTheSink) {
+TEST(TextUtil, DumpFormatsWideArgumentsIntoTheSinkOrAsUtf8ToStderr) {
     EXPECT_EQ(ZEM::setDumpSink(captureSink), nullptr);
-    ZEM::dump(L"\nAusnahme 0x%x in %s", 0xC0000005u, L"ZemDlg.cpp");
-    EXPECT_EQ(g_captured, L"\nAusnahme 0xc0000005 in ZemDlg.cpp");
-    g_captured.clear();
-    ZEM::dump(L"%ls|%-4s|%c|%lc|%d%%|%.2f", L"wide", L"ab", L'\u00E4', L'z', 50, 2.5);
-    EXPECT_EQ(g_captured, L"wide|ab  |\u00E4|z|50%|2.50");
+    ZEM::dump(L"%ls|%-4s|%c|%lc|%d%%|%.2f|0x%x", L"wide", L"ab", L'\u00E4', L'z', 50, 2.5, 0xC0000005u);
+    EXPECT_EQ(g_captured, L"wide|ab  |\u00E4|z|50%|2.50|0xc0000005");
     g_captured.clear();
     const std::wstring longText(5000, L'x');
     ZEM::dump(L"<%s>", longText.c_str());
-    EXPECT_EQ(g_captured, L"<" + longText + L">");
-    g_captured.clear();
     ZEM::dump(nullptr);
-    EXPECT_TRUE(g_captured.empty());
+    EXPECT_EQ(g_captured, L"<" + longText + L">");
     EXPECT_EQ(ZEM::setDumpSink(nullptr), captureSink);
-}
-
-TEST(TextUtil, DumpWritesUtf8ToStderrByDefault) {
     testing::internal::CaptureStderr();
     ZEM::dump(L"%s \U0001F600", L"\u010Ce\u0161tina");
-    const std::string bytes = testing::internal::GetCapturedStderr();
-    EXPECT_EQ(bytes, "\xC4\x8C" "e\xC5\xA1tina \xF0\x9F\x98\x80");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "\xC4\x8C" "e\xC5\xA1tina \xF0\x9F\x98\x80");
 }
