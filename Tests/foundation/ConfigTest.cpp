@@ -67,43 +67,35 @@ TEST_F(Config, DirectoriesAreMadeOnTheWay) {
 
 TEST_F(Config, ColoursReadFromIndexTextOrDirectory) {
     CZemColor color;
-    color.setColorIndex(3);
-    EXPECT_FALSE(color_from_cfg(color, nullptr));
+    EXPECT_FALSE(color_from_cfg(color.setColorIndex(3), nullptr));
     CZemDataItem* menu = cfg_dir_make(L"KAL_MENU\\COLOR");
     const auto from = [&](const wchar_t* key, const wchar_t* text) {
-        dataItemSet(menu, &CZemDataKey().set(key), text);
+        if (text) dataItemSet(menu, &CZemDataKey().set(key), text);
         return color_from_cfg(color, menu->get(&CZemDataKey().set(key)));
     };
     EXPECT_TRUE(from(L"AXIS", L" 255, 128 ,0") && color.oleColor() == 0x0080FFul) << "R 255, G 128, B 0 as a Windows colour";
     EXPECT_TRUE(from(L"AUX", L"#0080fF") && color.oleColor() == 0xFF8000ul);
-    dataItemSet(menu, &CZemDataKey().set(L"BASE"), 5);
-    EXPECT_TRUE(color_from_cfg(color, menu->get(&CZemDataKey().set(L"BASE"))) && color.colorIndex() == 5);
     dataItemSet(menu, &CZemDataKey().set(L"REFER\\COLOR"), 1);
     dataItemSet(menu, &CZemDataKey().set(L"REFER\\RGB"), L"65280");
     dataItemSet(menu, &CZemDataKey().set(L"REFER\\TBL"), L"RAL");
-    ASSERT_TRUE(color_from_cfg(color, menu->get(&CZemDataKey().set(L"REFER"))));
-    EXPECT_EQ(color.kind(), CZemColor::byNames);
-    EXPECT_EQ(color.oleColor(), 0x00FF00ul);
-    EXPECT_TRUE(color.bookName() == L"RAL" && color.colorName() == L"RAL");
-
+    ASSERT_TRUE(from(L"REFER", nullptr));
+    EXPECT_TRUE(color.kind() == CZemColor::byNames && color.oleColor() == 0x00FF00ul && color.bookName() == L"RAL");
     color.setColorIndex(2);
     EXPECT_FALSE(from(L"HIGHLIGHT", L"256,0,0")) << "256 is beyond a channel";
     dataItemSet(menu, &CZemDataKey().set(L"BACKGROUND"), 1.5);
-    EXPECT_FALSE(color_from_cfg(color, menu->get(&CZemDataKey().set(L"BACKGROUND")))) << "1.5 is no colour";
+    EXPECT_FALSE(from(L"BACKGROUND", nullptr)) << "1.5 is no colour";
     EXPECT_EQ(color.colorIndex(), 2);
 }
 
 TEST_F(Config, FilesAreFoundOnTheSupportPath) {
     const std::string folder = datatest::freshFolder("SupportPath");
-    for (const char* sub : {"/one", "/two", "/help"}) std::filesystem::create_directories(folder + sub);
-    datatest::writeBytes(folder + "/two/acad.pat", "*A\n");
-    datatest::writeBytes(folder + "/one/acad.pat", "*B\n");
-    datatest::writeBytes(folder + "/two/only.txt", "x");
-    datatest::writeBytes(folder + "/help/only.txt", "x");
+    for (const char* file : {"/one/acad.pat", "/two/acad.pat", "/two/only.txt", "/help/only.txt"}) {
+        std::filesystem::create_directories(std::filesystem::path(folder + file).parent_path());
+        datatest::writeBytes(folder + file, "x");
+    }
     const std::wstring one = datatest::widen(folder + "/one"), two = datatest::widen(folder + "/two");
     const std::wstring help = datatest::widen(folder + "/help");
     setRoot(L"SUPPORT", (L" " + one + L" ;;" + two).c_str());
-
     CZemString path = L"untouched";
     EXPECT_FALSE(fileFind(L"missing.pat", path));
     EXPECT_TRUE(path == L"untouched");
@@ -111,9 +103,7 @@ TEST_F(Config, FilesAreFoundOnTheSupportPath) {
     EXPECT_TRUE(fileFind(L"only.txt", path) && path == fsJoin(two.c_str(), L"only.txt"));
     const std::wstring full = help + L"/only.txt";
     EXPECT_TRUE(fileFind(full.c_str(), path) && path == full.c_str()) << "a name with its folder";
-
-    CZemArrayTempl<CZemString> helpFolders;
-    dataItemSet(cfg_dir_make(nullptr), &CZemDataKey().set(L"HELP"), helpFolders.append(help.c_str()));
+    setRoot(L"HELP", help.c_str());
     EXPECT_TRUE(help_find(L"only.txt", path) && path == fsJoin(help.c_str(), L"only.txt"));
     EXPECT_TRUE(help_find(L"acad.pat", path)) << "help files are also looked for on the support path";
     cfgLibraryDirSet(help.c_str());

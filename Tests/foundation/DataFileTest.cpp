@@ -5,6 +5,7 @@
 #include "ZemDataFileReader.h"
 #include "ZemDataFileWriter.h"
 #include "ZemResbuf.h"
+#include "ZemSmartResbuf.h"
 
 #include <gtest/gtest.h>
 
@@ -28,35 +29,27 @@ CZemDataItem everyKind() {
     put(root, L"REAL\\NEGZERO", -0.0);
     put(root, L"REAL\\HUGE", DBL_MAX);
     put(root, L"REAL\\INF", -std::numeric_limits<double>::infinity());
-    put(root, L"INT\\LONG", 2147483647);
-    put(root, L"TEXT\\HARD", L"Stra\u00DFe \u20AC \"q\" \\ \n\t\r \u0001 \u007F \u00A0 # ; { } = ( )");
-    put(root, L"TEXT\\EMPTY", L"");
+    put(root, L"INT", 2147483647);
+    put(root, L"TEXT", L"Stra\u00DFe \u20AC \"q\" \\ \n\t\r \u0001 \u007F \u00A0 # ; { } = ( )");
+    put(root, L"EMPTY", L"");
     put(root, L"POINT", CZemPoint3d(1e-7, -2.5, 1e22));
-    CZemVertexArray vl;
-    vl.append(CZemVertex(CZemPoint3d(0, 0, 0), CZemPoint3d(1, 0, 0), 0.41421356237309503));
-    vl.append(CZemVertex(CZemPoint3d(5, 5, 0), CZemPoint3d(6, 5, 0), -1.0)).setNormal(CZemVector3d(0, 1, 0));
-    put(root, L"VL", vl);
-    CZemArrayTempl<int> ints;
-    put(root, L"INTS", ints.append(0).append(-70000));
-    CZemArrayTempl<CZemString> texts;
-    put(root, L"TEXTS", texts.append(L"a").append(L"\u00E4\\"));
-    CZemPoint3dArray points;
-    put(root, L"EXTVIEW", points.append(CZemPoint3d(0, 0, 0)).append(CZemPoint3d(1, 2, 3)));
-    double m[4][4] = {{1, 0, 0, 5}, {0, 1, 0, 6}, {0, 0, 1, 7}, {0, 0, 0, 1}};
+    CZemVertexArray vl(CZemVertex(CZemPoint3d(0, 0, 0), CZemPoint3d(1, 0, 0), 0.41421356237309503));
+    put(root, L"VL", vl.append(CZemVertex(CZemPoint3d(5, 5, 0), CZemPoint3d(6, 5, 0), -1.0)).setNormal(CZemVector3d(0, 1, 0)));
+    put(root, L"INTS", CZemArrayTempl<int>().append(0).append(-70000));
+    put(root, L"TEXTS", CZemArrayTempl<CZemString>().append(L"a").append(L"\u00E4\\"));
+    put(root, L"EXTVIEW", CZemPoint3dArray().append(CZemPoint3d(0, 0, 0)).append(CZemPoint3d(1, 2, 3)));
+    const double m[4][4] = {{1, 0, 0, 5}, {0, 1, 0, 6}, {0, 0, 1, 7}, {0, 0, 0, 1}};
     put(root, L"MTX", m);
     root.getDir()->insert(&CZemDataKey().set(L"EMPTYDIR"), new CZemDataItem(CZemDataItem::typeDir), 0);
     CZemDataKey odd;
-    odd.set(RTSHORT, -5, RTDXF0, L"name key", RTSTR, L"with space", RTSTR, L"12abc", 0);
-    dataItemSet(&root, &odd, L"deep");
+    dataItemSet(&root, &odd.set(RTSHORT, -5, RTDXF0, L"name key", RTSTR, L"with space", RTSTR, L"12abc", 0), L"deep");
     // A chain of the rarer codes, as applications may store it.
+    resbuf* point = rbNew(RTPOINT);
+    point->resval.rpoint[0] = 2.0;
+    CSmartResbuf chain(mkResbuf(1.25, RTANG));
+    chain.append(mkResbuf(L"sym", RTDXF0)).append(point).append(mkResbuf(0.0, RTDOTE)).append(mkResbuf(0.0, RTT));
     CZemDataItem* rare = new CZemDataItem();
-    resbuf* chain = mkResbuf(1.25, RTANG);
-    chain->rbnext = mkResbuf(L"sym", RTDXF0);
-    chain->rbnext->rbnext = rbNew(RTPOINT);
-    chain->rbnext->rbnext->resval.rpoint[0] = 2.0;
-    chain->rbnext->rbnext->rbnext = mkResbuf(0.0, RTDOTE);
-    chain->rbnext->rbnext->rbnext->rbnext = mkResbuf(0.0, RTT);
-    rare->setData(chain, false);
+    rare->setData(chain.release(), false);
     root.getDir()->insert(&CZemDataKey().set(L"RARE"), rare, 0);
     return root;
 }
@@ -80,31 +73,23 @@ TEST(DataFile, EveryKindOfValueRoundTripsThroughAFile) {
     EXPECT_TRUE(itemGet(back.get(), L"REAL\\NEGZERO", negZero) && std::signbit(negZero));
 
     std::string again;
-    CZemDataFileWriter writer;
-    ASSERT_TRUE(writer.format(back.get(), again));
+    ASSERT_TRUE(CZemDataFileWriter().format(back.get(), again));
     EXPECT_EQ(again, datatest::readBytes(folder + "/every.dta")) << "writing is deterministic";
 
     const CZemDataItem value = *tree.get(&CZemDataKey().set(L"VL"));
-    ASSERT_TRUE(CZemDataFile(path.c_str()).save(&value));
-    ASSERT_TRUE(CZemDataFile(path.c_str()).load(back));
+    ASSERT_TRUE(CZemDataFile(path.c_str()).save(&value) && CZemDataFile(path.c_str()).load(back));
     EXPECT_TRUE(back && !back->isDir() && *back == value) << "a value as root";
-    ASSERT_TRUE(CZemDataFile(path.c_str()).save(nullptr));
-    ASSERT_TRUE(CZemDataFile(path.c_str()).load(back));
+    ASSERT_TRUE(CZemDataFile(path.c_str()).save(nullptr) && CZemDataFile(path.c_str()).load(back));
     EXPECT_EQ(back, nullptr) << "a data set without a root";
 }
 
 TEST(DataFile, HandWrittenTextReads) {
-    const std::string text =
-        "\xEF\xBB\xBF# settings\r\n"
-        "ZEMDATA 1 {\r\n"
-        "  KAL_MENU { COLOR { PDSIZE = 5; BACKGROUND = \"255,255,255\"; } }\n"
-        "  \"*WALL_EDIT*\" { BT = 2 ; MODE=\"SHELL\";}  # trailing comment\n"
-        "  -7 = L(-100000) A(.5) P2(1 2) nil T . ( ) 1.5e3 +4 inf;\n"
-        "  N\"sym\" = N\"x\";\n"
-        "  latin = \"Gr\xF6\xDF" "e\";\n"
-        "}\n";
     std::unique_ptr<CZemDataItem> root;
-    ASSERT_TRUE(parseText(text, root));
+    ASSERT_TRUE(parseText("\xEF\xBB\xBF# settings\r\nZEMDATA 1 {\r\n  KAL_MENU { COLOR { PDSIZE = 5; } }\n"
+                          "  \"*WALL_EDIT*\" { BT = 2 ; MODE=\"SHELL\";}  # trailing comment\n"
+                          "  -7 = L(-100000) A(.5) P2(1 2) nil T . ( ) 1.5e3 +4 inf;\n"
+                          "  N\"sym\" = N\"x\";\n  latin = \"Gr\xF6\xDF" "e\";\n}\n",
+                          root));
     int size = 0;
     EXPECT_TRUE(itemGet(root.get(), L"kal_menu\\color\\pdsize", size) && size == 5);
     CZemString mode, latin;
@@ -112,11 +97,10 @@ TEST(DataFile, HandWrittenTextReads) {
     EXPECT_TRUE(itemGet(root.get(), L"latin", latin) && latin == L"Gr\u00F6\u00DFe") << "bytes that are no UTF-8 read as Latin-1";
     CZemDataKey number;
     const CZemDataItem* list = root->get(&number.set(RTSHORT, -7, 0));
-    ASSERT_NE(list, nullptr);
+    ASSERT_TRUE(list && list->getResbuf()->resval.rlong == -100000);
     std::vector<short> codes;
     for (const resbuf* p = list->getResbuf(); p; p = p->rbnext) codes.push_back(p->restype);
     EXPECT_EQ(codes, (std::vector<short>{RTLONG, RTANG, RTPOINT, RTNIL, RTT, RTDOTE, RTLB, RTLE, RTREAL, RTSHORT, RTREAL}));
-    EXPECT_EQ(list->getResbuf()->resval.rlong, -100000);
     EXPECT_EQ(root->get(&CZemDataKey().set(L"sym"))->key().type(), RTDXF0);
 }
 
@@ -171,9 +155,7 @@ TEST(DataFile, FileBackedDataSetsOpenAndSave) {
     datatest::DumpCapture dump;
     EXPECT_EQ(zemDtaOpenFile(path.c_str(), zemDtaRead), nullptr) << "missing, read only";
     std::unique_ptr<CZemDtaFilePointer> data(zemDtaOpenFile(path.c_str(), zemDtaRead | zemDtaWrite));
-    ASSERT_NE(data, nullptr);
-    dtaWrite(data.get(), L"SN\\1\\LEN", 2.5);
-    EXPECT_TRUE(data->save());
+    ASSERT_TRUE(data && dtaWrite(data.get(), L"SN\\1\\LEN", 2.5) && data->save());
     {
         std::unique_ptr<CZemDtaFilePointer> again(zemDtaOpenFile(path.c_str(), zemDtaRead | zemDtaWrite | zemDtaSaveOnClose));
         double len = 0;
@@ -181,8 +163,7 @@ TEST(DataFile, FileBackedDataSetsOpenAndSave) {
         dtaWrite(again.get(), L"SN\\2\\LEN", 4.0);
     }
     std::unique_ptr<CZemDtaFilePointer> closed(zemDtaOpenFile(path.c_str(), zemDtaRead));
-    ASSERT_NE(closed, nullptr);
-    EXPECT_NE(closed->get(&CZemDataKey().set(L"SN\\2\\LEN")), nullptr) << "saved on close";
+    ASSERT_TRUE(closed && closed->get(&CZemDataKey().set(L"SN\\2\\LEN"))) << "saved on close";
     EXPECT_FALSE(closed->save()) << "opened without zemDtaWrite";
     datatest::writeBytes(folder + "/broken.dta", "ZEMDATA 1 { A = ; ");
     EXPECT_EQ(zemDtaOpenFile(datatest::widen(folder + "/broken.dta").c_str(), zemDtaWrite), nullptr);

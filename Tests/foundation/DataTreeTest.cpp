@@ -64,34 +64,11 @@ TEST(DataItem, ReadsFollowKeysAndLeaveOutputsAloneOnFailure) {
     const CZemDataItem* gen = root.get(&CZemDataKey(L"GEN").appendString(L"ID"));
     EXPECT_TRUE(gen && gen->get(id, nullptr) && id == 7) << "a null key reads the node itself";
 
-    EXPECT_FALSE(root.get(id, &CZemDataKey().set(L"ROT"))) << "1.5 is no integer";
-    EXPECT_FALSE(root.get(id, &CZemDataKey().set(L"BIG"))) << "beyond the int range";
-    unsigned long big = 0;
-    EXPECT_EQ(root.get(big, &CZemDataKey().set(L"BIG")), sizeof(unsigned long) > 4);
+    EXPECT_FALSE(root.get(id, &CZemDataKey().set(L"ROT")) || root.get(id, &CZemDataKey().set(L"BIG"))) << "1.5, 5e9";
     bool flag = false;
     EXPECT_TRUE(root.get(flag, &CZemDataKey().set(L"FLAG")) && flag);
     CZemPoint3d asPoint;
-    CZemVector3d asVector;
-    EXPECT_TRUE(root.get(asPoint, &CZemDataKey().set(L"MOV")) && root.get(asVector, &CZemDataKey().set(L"MOV")));
-    EXPECT_EQ(asVector, CZemVector3d(1, 2, 3));
-    CZemDataKey invalid;
-    datatest::DumpCapture dump;
-    EXPECT_EQ(const_cast<CZemDataItem&>(root).get(&invalid.set(99, 0)), nullptr) << "an invalid key names nothing";
-}
-
-TEST(DataItem, CopiesAreDeepAndAssignmentKeepsTheKey) {
-    CZemDataItem root = sampleTree();
-    CZemDataItem copy(root);
-    EXPECT_TRUE(copy == root);
-    copy.get(&CZemDataKey().set(L"GEN\\TYPE"))->setData(mkResbuf(L"DWG"), false);
-    CZemString text;
-    EXPECT_TRUE(root.get(text, &CZemDataKey().set(L"GEN\\TYPE")) && text == L"OUTLINE");
-    EXPECT_FALSE(copy == root);
-    CZemDataItem* gen = root.get(&CZemDataKey().set(L"GEN"));
-    *gen = *root.get(&CZemDataKey().set(L"ROT"));
-    EXPECT_STREQ(static_cast<const wchar_t*>(*gen->getKey()), L"GEN");
-    double value = 0;
-    EXPECT_TRUE(root.get(value, &CZemDataKey().set(L"GEN")) && value == 1.5);
+    EXPECT_TRUE(root.get(asPoint, &CZemDataKey().set(L"MOV")) && asPoint == CZemPoint3d(1, 2, 3)) << "a vector reads as a point";
 }
 
 TEST(DataDir, InsertReplacesInPlaceKeepsOrderAndIteratesInIt) {
@@ -104,14 +81,12 @@ TEST(DataDir, InsertReplacesInPlaceKeepsOrderAndIteratesInIt) {
     ASSERT_TRUE(dir->getKeyList(keys) && keys.len() == 5);
     EXPECT_STREQ(static_cast<const wchar_t*>(keys[1]), L"rot") << "replaced where it stood";
     EXPECT_EQ(dir->insert(&CZemDataKey().set(L"ROT"), new CZemDataItem(), 1), 0) << "keepExisting refuses";
-    EXPECT_EQ(dir->insert(nullptr, new CZemDataItem(), 0), 0);
     double rot = 0;
     EXPECT_TRUE(root.get(rot, &CZemDataKey().set(L"ROT")) && rot == 2.0);
 
     dir->remove(&CZemDataKey().set(L"GEN\\ID"));
     EXPECT_EQ(root.get(&CZemDataKey().set(L"GEN\\ID")), nullptr);
     EXPECT_NE(root.get(&CZemDataKey().set(L"GEN\\TYPE")), nullptr);
-    dir->remove(&CZemDataKey().set(L"NOT\\THERE"));
     std::wstring seen;
     CZemDataIterator it(&root);
     for (it.start(); !it.done(); it.next()) seen += static_cast<const wchar_t*>(*it->getKey()) + std::wstring(L",");
@@ -119,9 +94,6 @@ TEST(DataDir, InsertReplacesInPlaceKeepsOrderAndIteratesInIt) {
     CZemDataIterator none(root.get(&CZemDataKey().set(L"ROT")));
     none.start();
     EXPECT_TRUE(none.done()) << "a value node has no children";
-    CZemDataIterator null(nullptr);
-    null.start();
-    EXPECT_EQ(static_cast<CZemDataItem*>(null), nullptr);
     dir->insert(&CZemDataKey().set(L"ROT\\SUB"), new CZemDataItem(), 0);
     EXPECT_TRUE(root.get(&CZemDataKey().set(L"ROT"))->isDir()) << "a path turns a value into a directory";
 }

@@ -116,22 +116,3 @@ TEST(PatternLibrary, OurPatternsDrawWhatTheHostsMetricFileDraws) {
     EXPECT_EQ(19, compared);
     datatest::resetConfiguration();
 }
-
-TEST(PatternLibrary, OurGravelIsClosedStones) {
-    CZemPatternFile ours;
-    Lines gravel;
-    ASSERT_TRUE(ours.load(datatest::widen(kResources + "/zem.pat").c_str()) && ours.get(L"GRAVEL", gravel));
-    const std::vector<Stroke> strokes = drawPattern(gravel, -30.0, 80.0);
-    int ends = 0;
-    for (const Stroke& s : strokes) {
-        for (int e = 0; e < 4; e += 2) {
-            if (std::min(s[e], s[e + 1]) < 0 || std::max(s[e], s[e + 1]) > 50) continue;
-            ++ends;
-            const auto meets = [&](const Stroke& t) {
-                return &t != &s && (std::hypot(t[0] - s[e], t[1] - s[e + 1]) < 1e-6 || std::hypot(t[2] - s[e], t[3] - s[e + 1]) < 1e-6);
-            };
-            EXPECT_EQ(1, std::count_if(strokes.begin(), strokes.end(), meets)) << "a corner of one stone at " << s[e] << ", " << s[e + 1];
-        }
-    }
-    EXPECT_GT(ends, 100);
-}

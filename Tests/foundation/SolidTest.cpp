@@ -86,22 +86,6 @@ TEST(Solid, BoxShowsNineEdgesAndHidesTheThreeAtItsBackCorner) {
     EXPECT_NEAR(5 / std::sqrt(3.0), nearest, 1e-12) << "depth 1 keeps z: the corner (4, 0, 1) is nearest";
 }
 
-TEST(Solid, PlateWithASquareHoleShowsTheHoleFloorPartly) {
-    CZem_Solid plate;
-    CZemArrayTempl<CZemVertexArray> holes;
-    ASSERT_TRUE(plate.addPrism(form(1, 0, 0, 10, 6), holes.append(form(1, 4, 2, 2, 2)), 0, 1));
-    Pieces visible, hidden;
-    project(plate, visible, hidden);
-    // A sight line from the hole's floor (one up, one along +x, one along -y)
-    // leaves through the opening only from y >= 3 and x <= 5.
-    EXPECT_EQ(1, between(visible, {4, 3, 0}, {4, 4, 0}));
-    EXPECT_EQ(1, between(hidden, {4, 2, 0}, {4, 3, 0}));
-    EXPECT_EQ(1, between(visible, {4, 4, 0}, {5, 4, 0}));
-    EXPECT_EQ(1, between(hidden, {5, 4, 0}, {6, 4, 0}));
-    EXPECT_EQ(1, between(visible, {4, 2, 1}, {6, 2, 1})) << "nothing hides the top face";
-    EXPECT_EQ(1, between(hidden, {0, 6, 0}, {10, 6, 0}));
-}
-
 TEST(Solid, RoundWallsShowOnlyTheirOutlineEdges) {
     CZem_Solid cylinder;
     ASSERT_TRUE(cylinder.addPrism(form(2, 0, 0, 2), kNoHoles, 0, 2));

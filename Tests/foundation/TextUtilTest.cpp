@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <cwchar>
 #include <cmath>
 #include <string>
 
@@ -62,4 +63,24 @@ TEST(TextUtil, DumpFormatsWideArgumentsIntoTheSinkOrAsUtf8ToStderr) {
     testing::internal::CaptureStderr();
     ZEM::dump(L"%s \U0001F600", L"\u010Ce\u0161tina");
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "\xC4\x8C" "e\xC5\xA1tina \xF0\x9F\x98\x80");
+}
+
+TEST(String, BufferEditingAndEscapesThatRoundTripEveryCharacter) {
+    CZemString s;
+    EXPECT_TRUE(static_cast<const wchar_t*>(s) != nullptr && s.isEmpty() && !(s != nullptr)) << "empty equals a null text";
+    std::wcscpy(s.GetBuffer(20), L"written by a call");
+    EXPECT_TRUE(s.len() == 17 && s == L"written by a call");
+    s.format(L"PARM%d\\LABEL", 3);
+    EXPECT_TRUE(s.find(L'\\') == 5 && s.find(L'#') < 0 && s.mid(6, 100) == L"LABEL" && s.mid(99, 1).isEmpty());
+    EXPECT_TRUE(CZemString(L"aXXbXX").replace(L"XX", L"XXY") == L"aXXYbXXY");
+    EXPECT_TRUE(CZemString(L"Alpha") < L"Beta" && CZemString(L"beta") > L"Beta");
+    std::wstring all;
+    for (unsigned c = 1; c < 0x3000; c += 7) all += static_cast<wchar_t>(c);
+    s = (all + L"\\u0041 \\\\ \xFC\xDF\x20AC").c_str();
+    const CZemString original = s;
+    s.escapeWideChar();
+    for (const wchar_t* p = s; *p; ++p) ASSERT_TRUE(*p >= 0x20 && *p < 0x7F) << "escape form is ASCII";
+    EXPECT_TRUE(s.unEscapeWideChar() == original);
+    const CZemString malformed(L"\\u12 \\q \\");
+    EXPECT_TRUE(CZemString(malformed).unEscapeWideChar() == malformed) << "malformed escapes stay text";
 }
