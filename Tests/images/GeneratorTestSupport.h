@@ -27,13 +27,7 @@ inline CZemArrayTempl<int> path(std::initializer_list<int> elements)
 }
 
 template <class T>
-std::vector<T> asVector(const CZemArrayTempl<T>& a)
-{
-    std::vector<T> out;
-    for (int i = 0; i < a.len(); ++i)
-        out.push_back(a[i]);
-    return out;
-}
+std::vector<T> asVector(const CZemArrayTempl<T>& a) { return std::vector<T>(a.data(), a.data() + a.len()); }
 
 template <class T>
 void set(CZemDataItem* item, const wchar_t* key, const T& value)
@@ -42,7 +36,7 @@ void set(CZemDataItem* item, const wchar_t* key, const T& value)
     ZEM::dataItemSet(item, &path, value);
 }
 
-// A closed polyline through the corners, straight.
+// A polyline through the corners, straight, and an axis-parallel rectangle.
 inline CZemVertexArray polygon(std::initializer_list<CZemPoint3d> corners, bool closed = true)
 {
     CZemPoint3dArray points;
@@ -79,28 +73,8 @@ inline std::vector<int> stackAt(const CZemDataItem& item, const wchar_t* key)
     return asVector(stack);
 }
 
-inline std::wstring textAt(const CZemDataItem& item, const wchar_t* key)
-{
-    CZemString text(L"<none>");
-    ZEM::itemGet(&item, key, text);
-    return static_cast<const wchar_t*>(text);
-}
-
 // A list that reads no configuration: point size 2, style 3.
 inline CZemGDX newList() { return CZemGDX(CZemColor().setColorIndex(7), CZemMatrix3d(), 2.0, 3, {}, {}); }
-
-// The bounds of the items of group q, each polyline through its own matrix.
-inline bool groupBounds(const CZemGDX& gdx, const CZemArrayTempl<int>& q, CZemPoint3d& min, CZemPoint3d& max)
-{
-    CZemVertexArray all;
-    const CZemArrayTempl<int> items = gdx.StackToItemNr(q);
-    for (int k = 0; k < items.len(); ++k) {
-        CZemVertexArray vl;
-        gdx.geomGet(vl, items[k]);
-        all += vl.getTransformedCopy(gdx.mtxGet(items[k]));
-    }
-    return all.extents(min, max);
-}
 
 // An empty configuration in memory.
 inline void resetConfiguration()

@@ -1,6 +1,9 @@
 #include "SlideTestSupport.h"
+#include "ZemGDX.h"
+#include "ZemGdxImageSld.h"
 #include "ZemSlideData.h"
 #include "ZemSlideDecoder.h"
+#include "ZemSlideImage.h"
 #include "ZemSlideLibrary.h"
 
 #include <gtest/gtest.h>
@@ -14,43 +17,12 @@ namespace {
 
 const std::filesystem::path kSlides = std::filesystem::path(ZEM_TESTDATA_DIR) / "slides";
 
-// Record counts from the test data's own description: lines are vectors plus
-// offset vectors plus common-endpoint vectors; fill records count every FD
-// record, and a fill of k points (closing point included) spans k + 1 of them.
-struct Expected {
-    const char* path;
-    int width, height, lines, colors, fillRecords;
-};
-
-const Expected kFiles[] = {
-    {"dos-era/AUTODIM.SLD", 942, 694, 50 + 908 + 1525, 55, 45},
-    {"dos-era/BACKINGR.SLD", 1167, 959, 8 + 14 + 63, 4, 0},
-    {"dos-era/DWL-S.sld", 1279, 925, 8 + 5 + 20, 5, 0},
-    {"dos-era/FIELD.SLD", 1167, 959, 5 + 52 + 25, 3, 105},
-    {"dos-era/FIN2.SLD", 1167, 959, 11 + 7, 3, 0},
-    {"dos-era/FIN3.SLD", 1167, 959, 11 + 7, 3, 0},
-    {"dos-era/NUT-Z.sld", 1279, 918, 137 + 302 + 107, 1, 0},
-    {"dos-era/PPC.SLD", 572, 333, 26 + 2720 + 2581, 4, 24},
-    {"dos-era/REGSCRN1.SLD", 732, 533, 103 + 8662 + 1262, 1, 0},
-    {"dos-era/S6.SLD", 572, 414, 21 + 39 + 81, 16, 0},
-    {"dos-era/SHAFTBRK.SLD", 1167, 959, 8 + 2 + 31, 1, 0},
-    {"dos-era/SSN-Z.sld", 1279, 918, 45 + 72 + 22, 1, 0},
-    {"dos-era/ZOOMS.SLD", 642, 284, 24 + 632 + 5, 1, 0},
-    {"dos-era/ab30-02c.sld", 760, 534, 753, 133, 0},
-    {"velisp/slide_kz.sld", 1164, 815, 15, 34, 170},
-    {"velisp/slide_kss.sld", 849, 827, 110, 52, 0},
-    {"velisp/slide_up.sld", 302, 252, 27, 28, 0},
-    {"civil3d-2021/LOGO_COA_DYN.sld", 1874, 829, 0, 0, 0},
-    {"civil3d-2021/ANNO_LEAD_ARRW.sld", 1874, 829, 0, 2, 5},
-    {"civil3d-2021/STRP_ARRW_LT.sld", 1874, 829, 28, 44, 200},
-    {"civil3d-2021/PLNT_ACAC_HUIS.sld", 1874, 829, 150, 21, 40},
-};
-
 struct Totals {
     int lines = 0, colors = 0, fillRecords = 0, outside = 0;
 };
 
-// Decodes data to its end record and adds up what it holds; points outside
+// Decodes data to its end record and adds up what it holds: a fill of k
+// points (closing point included) spans k + 1 fill records; points outside
 // the raster are counted.
 Totals decodeWhole(CZemSlideData& data, const std::string& what)
 {
@@ -68,18 +40,110 @@ Totals decodeWhole(CZemSlideData& data, const std::string& what)
         for (const auto& point : polygon)
             check(point.first, point.second);
     }
-    for (int color : sink.colors)
-        EXPECT_TRUE(color >= 0 && color <= 255);
     totals.lines = static_cast<int>(sink.lines.size());
     totals.colors = static_cast<int>(sink.colors.size());
     return totals;
 }
 
+// What a slide should turn into, found by walking its records by their sizes
+// alone (every real slide is level 2, low byte first): a fill is every
+// solid-fill record from one of negative Y to the next one of negative Y.
+struct Item {
+    bool fill;
+    int color;
+    bool fullVector;
+    int from[2], to[2];
+};
+
+int word(const unsigned char* p) { return static_cast<short>(p[0] | p[1] << 8); }
+
+std::vector<Item> walk(const unsigned char* bytes, std::uint32_t size)
+{
+    std::vector<Item> items;
+    int color = 0;
+    bool inFill = false;
+    for (std::uint32_t at = 31; at + 2 <= size;) {
+        const int high = bytes[at + 1];
+        const unsigned char* r = bytes + at;
+        if (high <= 0x7F) {
+            items.push_back({false, color, true, {word(r), word(r + 2)}, {word(r + 4), word(r + 6)}});
+            at += 8;
+        } else if (high == 0xFB || high == 0xFE) {
+            items.push_back({false, color, false, {}, {}});
+            at += high == 0xFB ? 5 : 3;
+        } else if (high == 0xFF) {
+            color = r[0];
+            at += 2;
+        } else if (high == 0xFD && at + 6 <= size) {
+            if (!inFill)
+                items.push_back({true, color, false, {}, {}});
+            inFill = !inFill || word(r + 4) >= 0;
+            at += 6;
+        } else {
+            break;
+        }
+    }
+    return items;
+}
+
+// The items of gdx against the walk of the slide's bytes.
+void compare(const CZemGDX& gdx, const std::vector<Item>& expected, const std::string& what)
+{
+    EXPECT_EQ(gdx.lenGet(), static_cast<int>(expected.size())) << what;
+    const int n = std::min(gdx.lenGet(), static_cast<int>(expected.size()));
+    for (int i = 0; i < n; ++i) {
+        const Item& e = expected[static_cast<std::size_t>(i)];
+        ASSERT_EQ(gdx.typeGet(i), e.fill ? GDX_REG : GDX_VL) << what << " item " << i;
+        ASSERT_EQ(gdx.colorGet(i).colorIndex(), e.color) << what << " item " << i;
+        CZemArrayTempl<int> stack;
+        gdx.itemStackGet(stack, i);
+        ASSERT_TRUE(stack.len() == 1 && stack[0] == i + 1) << what << " item " << i;
+        CZemVertexArray vl;
+        gdx.geomGet(vl, i);
+        ASSERT_TRUE(!e.fullVector || (vl[0].m_start == CZemPoint3d(e.from[0], e.from[1], 0) &&
+                                      vl[0].m_end == CZemPoint3d(e.to[0], e.to[1], 0)))
+            << what << " item " << i;
+    }
+}
+
+CZemGDX emptyList() { return CZemGDX(CZemColor(), CZemMatrix3d(), 1.0, 0, CZemPoint3d(), CZemPoint3d()); }
+
+// A directory name as the wide name that code page 1252 turns back into it.
+std::wstring wideName(const std::string& bytes)
+{
+    static const std::vector<wchar_t> byByte = [] {
+        std::vector<wchar_t> table(256, L'?');
+        for (wchar_t c = 1; c < 0x2200; ++c) {
+            const wchar_t one[2] = {c, 0};
+            const std::string converted = CZemSlideImage::cp1252(one);
+            if (converted != "?")
+                table[static_cast<unsigned char>(converted[0])] = c;
+        }
+        return table;
+    }();
+    std::wstring name;
+    for (char b : bytes)
+        name += byByte[static_cast<unsigned char>(b)];
+    return name;
+}
+
 }  // namespace
 
-TEST(ZemSlideRealFiles, EverySlideFileDecodesToItsEnd)
+// Counts from the test data's own description: lines are vectors plus offset
+// vectors plus common-endpoint vectors; fill records count every FD record.
+TEST(ZemSlideRealFiles, SlideFilesDecodeToTheirCounts)
 {
-    for (const Expected& file : kFiles) {
+    const struct {
+        const char* path;
+        int width, height, lines, colors, fillRecords;
+    } files[] = {
+        {"dos-era/AUTODIM.SLD", 942, 694, 50 + 908 + 1525, 55, 45},
+        {"dos-era/FIELD.SLD", 1167, 959, 5 + 52 + 25, 3, 105},
+        {"dos-era/REGSCRN1.SLD", 732, 533, 103 + 8662 + 1262, 1, 0},
+        {"velisp/slide_kz.sld", 1164, 815, 15, 34, 170},
+        {"civil3d-2021/ANNO_LEAD_ARRW.sld", 1874, 829, 0, 2, 5},
+    };
+    for (const auto& file : files) {
         CZemSlideData data;
         ASSERT_TRUE(data.loadFile(kSlides / file.path)) << file.path;
         const Totals totals = decodeWhole(data, file.path);
@@ -92,7 +156,29 @@ TEST(ZemSlideRealFiles, EverySlideFileDecodesToItsEnd)
     }
 }
 
-TEST(ZemSlideRealFiles, EverySlideOfEachLibraryDecodesToItsEnd)
+TEST(ZemSlideRealFiles, EverySlideFileBecomesItsItems)
+{
+    int total = 0;
+    for (const auto& file : std::filesystem::recursive_directory_iterator(kSlides)) {
+        const std::string ext = file.path().extension().string();
+        if (ext != ".sld" && ext != ".SLD")
+            continue;
+        CZemSlideData data;
+        ASSERT_TRUE(data.loadFile(file.path()));
+        CZemSlideImage image;
+        image.assign(data.bytes(), static_cast<long>(data.size()));
+        CZemGDX gdx = emptyList();
+        const std::vector<Item> expected = walk(data.bytes(), data.size());
+        EXPECT_EQ(image.image(gdx, 0, nullptr), !expected.empty()) << file.path();
+        compare(gdx, expected, file.path().filename().string());
+        total += gdx.lenGet();
+    }
+    EXPECT_GT(total, 20000) << "the slide files of the test data";
+}
+
+// Every slide of each library decodes to its end and, looked up by its wide
+// name, becomes its items.
+TEST(ZemSlideRealFiles, EverySlideOfEachLibrary)
 {
     const struct {
         const char* path;
@@ -104,19 +190,26 @@ TEST(ZemSlideRealFiles, EverySlideOfEachLibraryDecodesToItsEnd)
         {"autolisp-cn/xyp1964.slb", 38, 5891, 18708, 83165},
     };
     for (const auto& library : libraries) {
-        std::ifstream in(kSlides / library.path, std::ios::binary);
+        const std::filesystem::path path = kSlides / library.path;
+        std::ifstream in(path, std::ios::binary);
         const std::vector<CZemSlideLibrary::Entry> entries = CZemSlideLibrary::directory(in);
         ASSERT_EQ(entries.size(), library.slides) << library.path;
         Totals sum;
         for (const CZemSlideLibrary::Entry& entry : entries) {
             CZemSlideData data;
-            ASSERT_TRUE(data.loadFromLibrary(kSlides / library.path, entry.name.c_str())) << entry.name;
+            ASSERT_TRUE(data.loadFromLibrary(path, entry.name.c_str())) << entry.name;
             ASSERT_EQ(data.size(), entry.length) << entry.name;
+            const std::vector<Item> expected = walk(data.bytes(), data.size());
             const Totals totals = decodeWhole(data, entry.name);
             sum.lines += totals.lines;
             sum.colors += totals.colors;
             sum.fillRecords += totals.fillRecords;
             sum.outside += totals.outside;
+            CZemGDX gdx = emptyList();
+            EXPECT_EQ(zem_gdx_image_sld(&gdx, wideName(entry.name).c_str(), path.wstring().c_str(), 0, nullptr),
+                      !expected.empty())
+                << library.path << " " << entry.name;
+            compare(gdx, expected, entry.name);
         }
         EXPECT_EQ(sum.lines, library.lines) << library.path;
         EXPECT_EQ(sum.colors, library.colors) << library.path;
@@ -134,11 +227,9 @@ TEST(ZemSlideRealFiles, TheDocumentedExampleSlide)
     ASSERT_TRUE(data.loadFromLibrary(kSlides / "velisp/mylib.slb", "slide1"));
     RecordingSink sink;
     ASSERT_TRUE(CZemSlideDecoder(sink).draw(data));
-    EXPECT_EQ(sink.width, 572);
-    EXPECT_EQ(sink.height, 292);
-    ASSERT_FALSE(sink.colors.empty());
+    EXPECT_TRUE(sink.width == 572 && sink.height == 292);
+    ASSERT_TRUE(!sink.colors.empty() && !sink.lines.empty());
     EXPECT_EQ(sink.colors[0], 7);
-    ASSERT_FALSE(sink.lines.empty());
     EXPECT_EQ(sink.lines[0], (RecordingSink::Line{572, 292, 0, 0}));
 }
 
