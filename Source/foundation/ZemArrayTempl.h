@@ -2,9 +2,7 @@
 
 #include "ZemObj.h"
 
-#include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <cstring>
 #include <new>
 
@@ -24,7 +22,7 @@ class CZemArrayTempl : public CZemObj {
 public:
     CZemArrayTempl() = default;
     CZemArrayTempl(const CZemArrayTempl& other) : CZemObj() { *this = other; }
-    ~CZemArrayTempl() override;
+    ~CZemArrayTempl() override { delete[] m_data; }
 
     CZemArrayTempl& operator=(const CZemArrayTempl& other);
 
@@ -106,31 +104,15 @@ CZemArrayTempl<T>& CZemArrayTempl<T>::operator=(const CZemArrayTempl& other) {
 }
 
 template <class T>
-CZemArrayTempl<T>::~CZemArrayTempl() {
-    for (std::uint32_t k = 0; k < m_physLen; ++k) m_data[k].~T();
-    std::free(static_cast<void*>(m_data));
-}
-
-// Every slot up to the physical length holds a constructed element. Growing
-// gives the slots behind the logical length fresh default elements, the old
-// ones die. As elements move bitwise, the storage then grows as one block:
-// the allocator may extend or remap it in place instead of copying, and only
-// the new slots are constructed, so a growing array touches each byte of its
-// storage once.
-template <class T>
 void CZemArrayTempl<T>::reserve(int n) {
-    static_assert(alignof(T) <= alignof(std::max_align_t), "storage comes from malloc");
     if (n <= 0 || static_cast<std::uint32_t>(n) <= m_physLen) return;
     std::uint32_t capacity = m_physLen == 0 ? 8 : m_physLen;
     while (capacity < static_cast<std::uint32_t>(n)) capacity *= 2;
-    for (std::uint32_t k = m_logLen; k < m_physLen; ++k) {
-        m_data[k].~T();
-        ::new (static_cast<void*>(m_data + k)) T();
-    }
-    void* storage = std::realloc(static_cast<void*>(m_data), std::size_t{capacity} * sizeof(T));
-    if (storage == nullptr) throw std::bad_alloc();
-    m_data = static_cast<T*>(storage);
-    for (std::uint32_t k = m_physLen; k < capacity; ++k) ::new (static_cast<void*>(m_data + k)) T();
+    T* storage = new T[capacity];
+    // The old slots receive the fresh default objects and die with them.
+    for (std::uint32_t k = 0; k < m_logLen; ++k) swapBytes(storage[k], m_data[k]);
+    delete[] m_data;
+    m_data = storage;
     m_physLen = capacity;
 }
 
