@@ -31,10 +31,8 @@ TEST(LineTypeTable, StoredShortFormsBecomeScaledPatternsWithDotsOfFixedLength)
 {
     using V = std::vector<double>;
     EXPECT_EQ(values(zem_gdx_linetype_draw(doubles({1.0}), 2.0, 0.21)), V{});
-    EXPECT_EQ(values(zem_gdx_linetype_draw(doubles({1.0, 0.0, 0.0}), 2.0, 0.21)), V{});
     EXPECT_EQ(values(zem_gdx_linetype_draw(doubles({1.0, 1.0, 0.0}), 2.0, 0.21)), (V{20.0, -8.0}));
     EXPECT_EQ(values(zem_gdx_linetype_draw(doubles({1.0, 1.0, 1.0}), 1.0, 0.21)), (V{11.0, -5.0, 0.21, -5.0}));
-    EXPECT_EQ(values(zem_gdx_linetype_draw(doubles({0.0, 0.0, 1.0}), 2.0, 0.21)), (V{0.21, -8.0}));
     EXPECT_EQ(values(zem_gdx_linetype_draw(doubles({0.0, 0.0, 0.0}), 2.0, 0.21)), (V{0.21, 0.21, 0.21}));
     EXPECT_EQ(values(zem_gdx_linetype_draw(doubles({5.0, -2.0, 0.0}), 3.0, 0.5)), (V{15.0, -6.0, 0.5}));
 }
@@ -132,8 +130,6 @@ TEST(RefreshPoints, EachStyleDrawsItsFramesAndFigure)
         {0, 10, 1, 0, {}},
         {1, 10, 0, 0, {}},
         {2, 10, 0, 0, {{55, 50}, {55, 60}, {60, 55}, {50, 55}}},
-        {3, 10, 0, 0, {{50, 50}, {50, 60}, {60, 50}, {60, 60}}},
-        {4, 10, 0, 0, {{55, 50}}},
         {8 | 3, 10, 0, 1, {}},
         {32 | 4, 10, 1, 0, {{55, 50}}},
         {64 | 1, 10, 0, 1, {}},

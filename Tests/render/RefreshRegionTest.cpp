@@ -1,6 +1,4 @@
-#include "CPen.h"
 #include "RenderTestSupport.h"
-#include "ZemRegFill.h"
 
 #include <gtest/gtest.h>
 
@@ -51,25 +49,6 @@ TEST(RefreshRegions, SolidFillIsOneLinePerPixelRowWithTheFillColour)
     CZemGDX white = makeList();
     addRegion(white, GDX_FILL, kWhite);
     EXPECT_EQ(refreshed(white).pens()[1].lopnColor, kBlack) << "white fills with a black pen";
-}
-
-// Rows 11 to 50 cross the square (10.5 .. 50.5), rows 21 to 30 the hole
-// (20.5 .. 30.5); a line leaves out its last pixel: 40 * 30 + 10 * 30.
-TEST(RegFillLines, FillsTheAreaOfTheRingsOnAMemoryBitmap)
-{
-    Canvas canvas(64, 64);
-    CDC dc;
-    dc.Attach(canvas.dc());
-    {
-        const CPen pen(PS_SOLID, 1, kRed);
-        const CZemDCSelect selected = dc.SelectObject(pen);
-        regFillLines(dc, rings({square(10.5, 10.5, 40), square(20.5, 20.5, 10)}));
-        regFillLines(dc, CZemArrayTempl<CZemVertexArray>());
-    }
-    dc.Detach();
-    EXPECT_EQ(canvas.count(kRed), 40 * 30 + 10 * 30);
-    EXPECT_EQ(canvas.pixel(25, 25), kWhite);
-    EXPECT_EQ(canvas.pixel(10, 11), kRed);
 }
 
 // Steps of 0.1 give 400 repetitions over the square, too many to read: it

@@ -59,6 +59,8 @@ void addLine(CZemGDX& list, const CZemVertexArray& vl, const CZemArrayTempl<doub
 std::wstring outPath(const wchar_t* name);
 // refresh of the list into outPath(name), read back.
 Emf refreshed(CZemGDX& list, const wchar_t* name = L"drawing.emf", int height = 110, int width = 110);
+// A bottom-up 24-bit bitmap file of one colour in the output folder.
+std::wstring writeBmp(const wchar_t* name, int side, COLORREF color);
 
 // Hatch patterns of the test's own, installed as the application object
 // while it lives.
@@ -91,7 +93,6 @@ public:
     void paint(CZemGDX& list);
     COLORREF pixel(int x, int y) const;
     int count(COLORREF color) const;
-    HDC dc() const { return m_dc; }
     // A PNG in the output folder, for a person to look at.
     bool save(const wchar_t* name) const;
 
