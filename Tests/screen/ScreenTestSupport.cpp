@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-
 namespace screentest {
 
 ScreenWindow::ScreenWindow(CZemDplistImage& control, int width, int height)
@@ -55,21 +53,6 @@ std::vector<LPARAM> ScreenWindow::picks() const
         out.push_back(msg.lParam);
     }
     return out;
-}
-
-std::wstring writeBmp(const wchar_t* name, int side, COLORREF color)
-{
-    const int stride = (side * 3 + 3) & ~3;
-    BITMAPFILEHEADER file = {0x4D42, 0, 0, 0, sizeof(BITMAPFILEHEADER) + sizeof(BITMAPINFOHEADER)};
-    const BITMAPINFOHEADER info = {sizeof(BITMAPINFOHEADER), side, side, 1, 24, BI_RGB, 0, 0, 0, 0, 0};
-    file.bfSize = file.bfOffBits + stride * side;
-    std::string row(stride, '\0');
-    for (int x = 0; x < side * 3; ++x) row[x] = static_cast<char>(color >> (8 * (2 - x % 3)));
-    const std::wstring path = rendertest::outPath(name);
-    std::ofstream out(path.c_str(), std::ios::binary);
-    out.write(reinterpret_cast<const char*>(&file), sizeof file).write(reinterpret_cast<const char*>(&info), sizeof info);
-    for (int y = 0; y < side; ++y) out.write(row.data(), stride);
-    return path;
 }
 
 }  // namespace screentest

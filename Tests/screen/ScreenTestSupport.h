@@ -5,7 +5,6 @@
 
 #include <windows.h>
 
-#include <string>
 #include <vector>
 
 namespace screentest {
@@ -36,8 +35,5 @@ private:
     int m_width, m_height;
     std::vector<COLORREF> m_pixels;
 };
-
-// A bottom-up 24-bit bitmap file of one colour in the tests' output folder.
-std::wstring writeBmp(const wchar_t* name, int side, COLORREF color);
 
 }  // namespace screentest
