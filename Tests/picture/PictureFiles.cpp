@@ -1,7 +1,5 @@
 #include "PictureFiles.h"
 
-#include <wincodec.h>
-
 namespace picturetest {
 
 namespace {
@@ -34,6 +32,17 @@ void putImage(std::vector<unsigned char>& bytes, const Raster& raster, int bits,
     }
 }
 
+bool writeBytes(const std::wstring& path, const std::vector<unsigned char>& bytes)
+{
+    const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return false;
+    DWORD written = 0;
+    const BOOL ok = WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+    CloseHandle(file);
+    return ok && written == bytes.size();
+}
+
 }  // namespace
 
 Raster quadrants(int width, int height, COLORREF topLeft, COLORREF topRight, COLORREF bottomLeft,
@@ -54,17 +63,6 @@ std::wstring imagePath(const wchar_t* name)
         c = c == L'/' ? L'\\' : c;
     CreateDirectoryW(folder.c_str(), nullptr);
     return folder + L"\\" + name;
-}
-
-bool writeBytes(const std::wstring& path, const std::vector<unsigned char>& bytes)
-{
-    const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-    if (file == INVALID_HANDLE_VALUE)
-        return false;
-    DWORD written = 0;
-    const BOOL ok = WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
-    CloseHandle(file);
-    return ok && written == bytes.size();
 }
 
 bool writeBmp(const std::wstring& path, const Raster& raster)
@@ -101,62 +99,6 @@ bool writeEmf(const std::wstring& path, int width, int height, COLORREF color)
     const HENHMETAFILE metafile = CloseEnhMetaFile(dc);
     DeleteObject(brush);
     return metafile && DeleteEnhMetaFile(metafile);
-}
-
-// The placeable header names the bounds and units a inch, with a checksum
-// that XORs its first ten words; the records set their own window.
-bool writeWmf(const std::wstring& path, int width, int height, COLORREF color)
-{
-    const HDC dc = CreateMetaFileW(nullptr);
-    SetWindowExtEx(dc, width, height, nullptr);
-    const HBRUSH brush = CreateSolidBrush(color);
-    const RECT all = {0, 0, width, height};
-    FillRect(dc, &all, brush);
-    const HMETAFILE metafile = CloseMetaFile(dc);
-    DeleteObject(brush);
-    std::vector<unsigned char> records(GetMetaFileBitsEx(metafile, 0, nullptr));
-    GetMetaFileBitsEx(metafile, static_cast<UINT>(records.size()), records.data());
-    DeleteMetaFile(metafile);
-    std::vector<unsigned char> bytes;
-    put(bytes, {{0x9AC6CDD7, 4}, {0, 2}, {0, 4}, {static_cast<unsigned>(width), 2},
-                {static_cast<unsigned>(height), 2}, {96, 2}, {0, 4}});
-    unsigned checksum = 0;
-    for (int i = 0; i < 10; ++i)
-        checksum ^= bytes[2 * i] | (bytes[2 * i + 1] << 8);
-    put(bytes, {{checksum, 2}});
-    bytes.insert(bytes.end(), records.begin(), records.end());
-    return !records.empty() && writeBytes(path, bytes);
-}
-
-bool writeEncoded(const std::wstring& path, const GUID& container, const Raster& raster)
-{
-    std::vector<unsigned char> bgr;
-    for (const COLORREF c : raster.pixels)
-        bgr.insert(bgr.end(), {GetBValue(c), GetGValue(c), GetRValue(c)});
-    const UINT width = static_cast<UINT>(raster.width);
-    const UINT height = static_cast<UINT>(raster.height);
-    IWICImagingFactory* factory = nullptr;
-    IWICStream* stream = nullptr;
-    IWICBitmapEncoder* encoder = nullptr;
-    IWICBitmapFrameEncode* frame = nullptr;
-    IWICBitmap* source = nullptr;
-    const bool written =
-        SUCCEEDED(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_IWICImagingFactory,
-                                   reinterpret_cast<void**>(&factory))) &&
-        SUCCEEDED(factory->CreateStream(&stream)) &&
-        SUCCEEDED(stream->InitializeFromFilename(path.c_str(), GENERIC_WRITE)) &&
-        SUCCEEDED(factory->CreateEncoder(container, nullptr, &encoder)) &&
-        SUCCEEDED(encoder->Initialize(stream, WICBitmapEncoderNoCache)) &&
-        SUCCEEDED(encoder->CreateNewFrame(&frame, nullptr)) && SUCCEEDED(frame->Initialize(nullptr)) &&
-        SUCCEEDED(frame->SetSize(width, height)) &&
-        SUCCEEDED(factory->CreateBitmapFromMemory(width, height, GUID_WICPixelFormat24bppBGR, width * 3,
-                                                  static_cast<UINT>(bgr.size()), bgr.data(), &source)) &&
-        SUCCEEDED(frame->WriteSource(source, nullptr)) && SUCCEEDED(frame->Commit()) &&
-        SUCCEEDED(encoder->Commit());
-    for (IUnknown* object : std::initializer_list<IUnknown*>{source, frame, encoder, stream, factory})
-        if (object)
-            object->Release();
-    return written;
 }
 
 }  // namespace picturetest

@@ -6,8 +6,7 @@
 #include <vector>
 
 // Images of solid colour blocks that the picture tests write into the build
-// tree: bitmaps and icons byte by byte, metafiles through GDI, GIF and JPEG
-// through the platform's image encoders.
+// tree: bitmaps and icons byte by byte, metafiles through GDI.
 namespace picturetest {
 
 // Pixels row by row from the top.
@@ -25,16 +24,11 @@ Raster quadrants(int width, int height, COLORREF topLeft, COLORREF topRight, COL
 // The full Windows path of name in the tests' image folder, made on first use.
 std::wstring imagePath(const wchar_t* name);
 
-bool writeBytes(const std::wstring& path, const std::vector<unsigned char>& bytes);
 // A bottom-up 24-bit bitmap file.
 bool writeBmp(const std::wstring& path, const Raster& raster);
 // An icon file with one 32-bit image of at most 255 pixels a side.
 bool writeIco(const std::wstring& path, const Raster& raster);
 // An enhanced metafile, framed width by height screen pixels, filled with colour.
 bool writeEmf(const std::wstring& path, int width, int height, COLORREF color);
-// A placeable metafile of width by height units at 96 a inch, filled with colour.
-bool writeWmf(const std::wstring& path, int width, int height, COLORREF color);
-// The raster in the container format of an image encoder (GIF, JPEG), 24 bits a pixel.
-bool writeEncoded(const std::wstring& path, const GUID& container, const Raster& raster);
 
 }  // namespace picturetest

@@ -5,16 +5,14 @@
 
 #include <gtest/gtest.h>
 #include <ole2.h>
-#include <wincodec.h>
 
+#include <algorithm>
 #include <cmath>
-#include <functional>
 #include <string>
 #include <vector>
 
 using picturetest::imagePath;
 using picturetest::quadrants;
-using picturetest::Raster;
 
 namespace {
 
@@ -41,20 +39,16 @@ std::wstring largeImage()
     return path;
 }
 
-// The quadrant image is shown in shown (left, top, width, height): each
-// quadrant's colour inside it and beside the splits, the image's edges to
-// the pixel, and the background just outside; only points within the control.
-void expectShown(PictureWindow& window, RECT shown, COLORREF background, int clientSize = 400)
+// The quadrant image is shown in shown (left, top, width, height) of a 400 by
+// 400 control: each quadrant's colour inside it, the image's edges to the
+// pixel, and the magenta background just outside; only points within the control.
+void expectShown(PictureWindow& window, RECT shown)
 {
-    const int width = shown.right;
-    const int height = shown.bottom;
-    const int left = shown.left;
-    const int top = shown.top;
-    const auto inside = [clientSize](int v) { return v >= 0 && v < clientSize; };
+    const int width = shown.right, height = shown.bottom, left = shown.left, top = shown.top;
+    const COLORREF background = kMagenta;
+    const auto inside = [](int v) { return v >= 0 && v < 400; };
     const int quarterX = left + width / 4;
     const int quarterY = top + height / 4;
-    const int splitX = left + width / 2;
-    const int splitY = top + height / 2;
     const struct {
         int x, y;
         COLORREF color;
@@ -62,10 +56,6 @@ void expectShown(PictureWindow& window, RECT shown, COLORREF background, int cli
                   {left + 3 * width / 4, quarterY, kGreen},
                   {quarterX, top + 3 * height / 4, kBlue},
                   {left + 3 * width / 4, top + 3 * height / 4, kYellow},
-                  {splitX - 3, quarterY, kRed},
-                  {splitX + 3, quarterY, kGreen},
-                  {quarterX, splitY - 3, kRed},
-                  {quarterX, splitY + 3, kBlue},
                   {left, quarterY, kRed},
                   {left - 1, quarterY, background},
                   {left + width - 1, quarterY, kGreen},
@@ -81,61 +71,44 @@ void expectShown(PictureWindow& window, RECT shown, COLORREF background, int cli
     }
 }
 
-// The texts of a dialog's child windows.
+// Text without its line ends.
+std::wstring trimmed(std::wstring text)
+{
+    while (!text.empty() && (text.back() == L'\n' || text.back() == L'\r'))
+        text.pop_back();
+    return text;
+}
+
+// The texts of a dialog's child windows, without their line ends.
 std::vector<std::wstring> childTexts(HWND dialog)
 {
     std::vector<std::wstring> texts;
-    EnumChildWindows(
-        dialog,
-        [](HWND child, LPARAM data) -> BOOL {
-            wchar_t text[512] = {};
-            GetWindowTextW(child, text, 512);
-            reinterpret_cast<std::vector<std::wstring>*>(data)->push_back(text);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&texts));
+    const WNDENUMPROC collect = [](HWND child, LPARAM data) -> BOOL {
+        wchar_t text[512] = {};
+        GetWindowTextW(child, text, 512);
+        reinterpret_cast<std::vector<std::wstring>*>(data)->push_back(trimmed(text));
+        return TRUE;
+    };
+    EnumChildWindows(dialog, collect, reinterpret_cast<LPARAM>(&texts));
     return texts;
-}
-
-std::wstring systemText(DWORD error)
-{
-    wchar_t text[260] = {};
-    FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, error, 0, text, 260, nullptr);
-    std::wstring result = text;
-    while (!result.empty() && (result.back() == L'\n' || result.back() == L'\r'))
-        result.pop_back();
-    return result;
 }
 
 }  // namespace
 
-TEST(ZemPicture, FitsALargeImageAndKeepsASmallOneAtItsSizeBothCentred)
+TEST(ZemPicture, FitsALargeImageZoomsAndPansItAndKeepsASmallOneAtItsSize)
 {
     PictureWindow window;
     window.pic().SetBackColor(kMagenta);
     ASSERT_TRUE(window.pic().LoadImageW(largeImage().c_str()));
     window.paint();
     // Fit factor max(600 / 400, 800 / 400) = 2: 400 by 300, 50 down.
-    expectShown(window, {0, 50, 400, 300}, kMagenta);
+    expectShown(window, {0, 50, 400, 300});
 
-    const std::wstring small = imagePath(L"small.bmp");
-    ASSERT_TRUE(picturetest::writeBmp(small, quadrants(100, 60, kRed, kGreen, kBlue, kYellow)));
-    ASSERT_TRUE(window.pic().LoadImageW(small.c_str()));
-    window.paint();
-    expectShown(window, {150, 170, 100, 60}, kMagenta);
-    EXPECT_TRUE(window.pic().IsKindOf(RUNTIME_CLASS(CWnd)));
-}
-
-// One notch of 1.5 about (100, 100) moves the corner from (0, 50) to
-// (100 - 100 * 1.5, 100 - 50 * 1.5) and shows 600 by 450.
-TEST(ZemPicture, TheWheelZoomsAboutTheCursorOneStepANotchWithinLimits)
-{
-    PictureWindow window;
-    window.pic().SetBackColor(kMagenta);
-    ASSERT_TRUE(window.pic().LoadImageW(largeImage().c_str()));
+    // One notch of 1.5 about (100, 100) moves the corner from (0, 50) to
+    // (100 - 100 * 1.5, 100 - 50 * 1.5) and shows 600 by 450.
     window.wheel(120, {100, 100});
     window.update();
-    expectShown(window, {-50, 25, 600, 450}, kMagenta);
+    expectShown(window, {-50, 25, 600, 450});
     window.wheel(-120, {100, 100});
     EXPECT_EQ(window.pic().position().x, 0);
     EXPECT_EQ(window.pic().position().y, 50);
@@ -158,16 +131,11 @@ TEST(ZemPicture, TheWheelZoomsAboutTheCursorOneStepANotchWithinLimits)
     for (int notch = 0; notch < 30; ++notch)
         window.wheel(-120, {200, 200});
     EXPECT_NEAR(window.pic().zoom(), 1.0 / 2.25, 1e-9) << "zoom stops below 0.5";
-}
 
-TEST(ZemPicture, TheMiddleButtonPansAndResetFitsAgain)
-{
-    PictureWindow window;
-    window.pic().SetBackColor(kMagenta);
-    ASSERT_TRUE(window.pic().LoadImageW(largeImage().c_str()));
+    // Reset fits again; the middle button pans from there.
+    window.pic().Reset();
     window.paint();
     const int gdiObjects = zemGdiObjectCount();
-
     window.send(WM_MBUTTONDOWN, MK_MBUTTON, {100, 100});
     EXPECT_EQ(GetCapture(), window.hwnd());
     EXPECT_EQ(GetFocus(), window.hwnd());
@@ -175,22 +143,22 @@ TEST(ZemPicture, TheMiddleButtonPansAndResetFitsAgain)
     // The paint still pending takes the last position along.
     window.send(WM_MOUSEMOVE, MK_MBUTTON, {130, 80});
     window.update();
-    expectShown(window, {30, 30, 400, 300}, kMagenta);
+    expectShown(window, {30, 30, 400, 300});
     window.send(WM_MOUSEMOVE, 0, {300, 300});
     window.send(WM_MBUTTONUP, 0, {300, 300});
     EXPECT_EQ(GetCapture(), nullptr);
     window.update();
-    expectShown(window, {30, 30, 400, 300}, kMagenta);
-
-    window.wheel(120, {50, 50});
-    window.pic().Reset();
-    window.update();
-    expectShown(window, {0, 50, 400, 300}, kMagenta);
-    EXPECT_DOUBLE_EQ(window.pic().zoom(), 1.0);
+    expectShown(window, {30, 30, 400, 300});
     EXPECT_EQ(zemGdiObjectCount(), gdiObjects) << "every paint gives back what it made";
+
+    const std::wstring small = imagePath(L"small.bmp");
+    ASSERT_TRUE(picturetest::writeBmp(small, quadrants(100, 60, kRed, kGreen, kBlue, kYellow)));
+    ASSERT_TRUE(window.pic().LoadImageW(small.c_str()));
+    window.paint();
+    expectShown(window, {150, 170, 100, 60});
 }
 
-TEST(ZemPicture, TheBackgroundIsTheSetColourUnlessTheControlIsTransparent)
+TEST(ZemPicture, TheBackgroundIsTheSetColourUnlessTransparentAndAFailedLoadEmptiesTheControl)
 {
     PictureWindow window(100, 100);
     CZemTestHost host;
@@ -208,6 +176,31 @@ TEST(ZemPicture, TheBackgroundIsTheSetColourUnlessTheControlIsTransparent)
     transparent.pic().SetBackColor(kCyan);
     transparent.paint();
     EXPECT_EQ(transparent.pixel(50, 50), GetSysColor(COLOR_BTNFACE));
+
+    // A failed load says why when the system knows, and leaves the control empty.
+    ASSERT_TRUE(window.pic().LoadImageW(largeImage().c_str()));
+    std::vector<std::wstring> texts;
+    CZemModalScript script({CZemModalScript::run([&texts](HWND box) { texts = childTexts(box); }),
+                            CZemModalScript::clickButton(IDOK)});
+    script.arm();
+    EXPECT_TRUE(window.pic().LoadImageW(imagePath(L"missing.bmp").c_str()));
+    EXPECT_TRUE(script.finished());
+    EXPECT_FALSE(script.timedOut());
+    EXPECT_EQ(script.firstCaption(), L"CZemPicture::LoadImage");
+    wchar_t system[260] = {};
+    FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, ERROR_FILE_NOT_FOUND, 0, system,
+                   260, nullptr);
+    EXPECT_NE(std::find(texts.begin(), texts.end(), trimmed(system)), texts.end())
+        << "the system's text for a missing file";
+    window.paint();
+    EXPECT_EQ(window.pixel(50, 50), kCyan) << "the former image is gone";
+    EXPECT_FALSE(window.pic().Copy());
+
+    CZemModalScript none({CZemModalScript::clickButton(IDOK)});
+    none.arm();
+    EXPECT_TRUE(window.pic().LoadImageW(L"")) << "a failure without an error code";
+    EXPECT_EQ(none.firstCaption(), L"") << "no message box";
+    EXPECT_FALSE(window.pic().LoadImageW(nullptr));
 }
 
 TEST(ZemPicture, CopyPutsTheWholeImageOnTheClipboardWhateverTheZoom)
@@ -226,8 +219,6 @@ TEST(ZemPicture, CopyPutsTheWholeImageOnTheClipboardWhateverTheZoom)
     ASSERT_NE(metafile, nullptr);
     ENHMETAHEADER header = {};
     GetEnhMetaFileHeader(metafile, sizeof header, &header);
-    EXPECT_EQ(header.rclBounds.left, 0);
-    EXPECT_EQ(header.rclBounds.top, 0);
     EXPECT_EQ(header.rclBounds.right, 799);
     EXPECT_EQ(header.rclBounds.bottom, 599);
 
@@ -239,8 +230,6 @@ TEST(ZemPicture, CopyPutsTheWholeImageOnTheClipboardWhateverTheZoom)
     PlayEnhMetaFile(memory, metafile, &all);
     CloseClipboard();
     EXPECT_EQ(GetPixel(memory, 200, 150), kRed);
-    EXPECT_EQ(GetPixel(memory, 600, 150), kGreen);
-    EXPECT_EQ(GetPixel(memory, 200, 450), kBlue);
     EXPECT_EQ(GetPixel(memory, 799, 599), kYellow);
     SelectObject(memory, former);
     DeleteObject(bitmap);
@@ -248,91 +237,33 @@ TEST(ZemPicture, CopyPutsTheWholeImageOnTheClipboardWhateverTheZoom)
     ReleaseDC(nullptr, screen);
 }
 
-TEST(ZemPicture, AFailedLoadSaysWhyWhenTheSystemKnowsAndLeavesTheControlEmpty)
+// Pictures other than bitmaps are drawn through their own branch. Larger than
+// the control of 200 by 200 they are fitted: the icon of 240 by 120 shows
+// 200 by 100 at (0, 50), the metafile of 300 by 240 shows 200 by 160 at
+// (0, 20). The colour in the middle, and 2 pixels inside and outside the top
+// and bottom edges.
+TEST(ZemPicture, FitsIconsAndMetafilesLikeBitmaps)
 {
-    PictureWindow window(100, 100);
-    window.pic().SetBackColor(kCyan);
-    ASSERT_TRUE(window.pic().LoadImageW(largeImage().c_str()));
-    std::vector<std::wstring> texts;
-    CZemModalScript script({CZemModalScript::run([&texts](HWND box) { texts = childTexts(box); }),
-                            CZemModalScript::clickButton(IDOK)});
-    script.arm();
-    EXPECT_TRUE(window.pic().LoadImageW(imagePath(L"missing.bmp").c_str()));
-    EXPECT_TRUE(script.finished());
-    EXPECT_FALSE(script.timedOut());
-    EXPECT_EQ(script.firstCaption(), L"CZemPicture::LoadImage");
-    const std::wstring expected = systemText(ERROR_FILE_NOT_FOUND);
-    bool found = false;
-    for (std::wstring text : texts) {
-        while (!text.empty() && (text.back() == L'\n' || text.back() == L'\r'))
-            text.pop_back();
-        found = found || text == expected;
-    }
-    EXPECT_TRUE(found) << "the system's text for a missing file";
-    window.paint();
-    EXPECT_EQ(window.pixel(50, 50), kCyan) << "the former image is gone";
-    EXPECT_FALSE(window.pic().Copy());
-
-    CZemModalScript none({CZemModalScript::clickButton(IDOK)});
-    none.arm();
-    EXPECT_TRUE(window.pic().LoadImageW(L"")) << "a failure without an error code";
-    EXPECT_EQ(none.firstCaption(), L"") << "no message box";
-    EXPECT_FALSE(window.pic().LoadImageW(nullptr));
-}
-
-// Each format as the platform's picture object offers it, larger than the
-// control of 200 by 200 so that it is fitted: 300 by 240 shows 200 by 160 at
-// (0, 20), the icon of 240 by 120 shows 200 by 100 at (0, 50). The colour in
-// the middle, and 2 pixels inside and outside the top and bottom edges. The
-// GIF encoder's fixed palette and JPEG's compression shift the colour a little.
-TEST(ZemPicture, FitsBitmapsIconsGifJpegAndMetafilesAlike)
-{
-    const auto solid = [](int width, int height, COLORREF color) {
-        return quadrants(width, height, color, color, color, color);
-    };
+    const std::wstring icon = imagePath(L"a.ico"), metafile = imagePath(L"a.emf");
+    ASSERT_TRUE(picturetest::writeIco(icon, quadrants(240, 120, kGreen, kGreen, kGreen, kGreen)));
+    ASSERT_TRUE(picturetest::writeEmf(metafile, 300, 240, kYellow));
     const struct {
-        const wchar_t* name;
-        std::function<bool(const std::wstring&)> write;
+        const std::wstring& path;
         RECT shown;
         COLORREF color;
-        int tolerance;
-    } formats[] = {
-        {L"a.bmp", [&](const std::wstring& p) { return picturetest::writeBmp(p, solid(300, 240, kBlue)); },
-         {0, 20, 200, 180}, kBlue, 0},
-        {L"a.ico", [&](const std::wstring& p) { return picturetest::writeIco(p, solid(240, 120, kGreen)); },
-         {0, 50, 200, 150}, kGreen, 0},
-        {L"a.gif",
-         [&](const std::wstring& p) {
-             return picturetest::writeEncoded(p, GUID_ContainerFormatGif, solid(300, 240, kBlue));
-         },
-         {0, 20, 200, 180}, kBlue, 8},
-        {L"a.jpg",
-         [&](const std::wstring& p) {
-             return picturetest::writeEncoded(p, GUID_ContainerFormatJpeg, solid(300, 240, kRed));
-         },
-         {0, 20, 200, 180}, kRed, 24},
-        {L"a.emf", [](const std::wstring& p) { return picturetest::writeEmf(p, 300, 240, kYellow); },
-         {0, 20, 200, 180}, kYellow, 0},
-        {L"a.wmf", [](const std::wstring& p) { return picturetest::writeWmf(p, 300, 240, kMagenta); },
-         {0, 20, 200, 180}, kMagenta, 0},
-    };
+    } formats[] = {{icon, {0, 50, 200, 150}, kGreen}, {metafile, {0, 20, 200, 180}, kYellow}};
     for (const auto& format : formats) {
-        SCOPED_TRACE(format.name);
-        const std::wstring path = imagePath(format.name);
-        ASSERT_TRUE(format.write(path));
+        SCOPED_TRACE(format.path);
         PictureWindow window(200, 200);
         window.pic().SetBackColor(kCyan);
         CZemModalScript failure({CZemModalScript::clickButton(IDOK)});
         failure.arm();
-        ASSERT_TRUE(window.pic().LoadImageW(path.c_str()));
+        ASSERT_TRUE(window.pic().LoadImageW(format.path.c_str()));
         EXPECT_EQ(failure.firstCaption(), L"") << "loaded";
         EXPECT_EQ(window.pic().position().x, format.shown.left);
         EXPECT_EQ(window.pic().position().y, format.shown.top);
         window.paint();
-        const COLORREF middle = window.pixel(100, 100);
-        EXPECT_NEAR(GetRValue(middle), GetRValue(format.color), format.tolerance);
-        EXPECT_NEAR(GetGValue(middle), GetGValue(format.color), format.tolerance);
-        EXPECT_NEAR(GetBValue(middle), GetBValue(format.color), format.tolerance);
+        EXPECT_EQ(window.pixel(100, 100), format.color);
         EXPECT_NE(window.pixel(100, format.shown.top + 2), kCyan);
         EXPECT_EQ(window.pixel(100, format.shown.top - 2), kCyan);
         EXPECT_NE(window.pixel(100, format.shown.bottom - 3), kCyan);
