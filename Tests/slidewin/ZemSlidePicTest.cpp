@@ -112,32 +112,18 @@ TEST(ZemSlidePic, PaintsTheSlideCentredOnItsBackground)
     EXPECT_EQ(tall.pixel(50, 200), kBlack);
 }
 
-TEST(ZemSlidePic, AnEmptyControlPaintsTheButtonFace)
+TEST(ZemSlidePic, WhiteOnAWhiteBackgroundDrawsBlackAndATransparentControlDrawsOverWhatLiesBehind)
 {
-    SlideWindow window(60, 40);
-    window.pic().show(nullptr, 100);
-    window.paint();
-    EXPECT_EQ(window.pixel(30, 20), GetSysColor(COLOR_BTNFACE));
-    long width = 0, height = 0;
-    EXPECT_FALSE(window.pic().getSize(width, height));
-    EXPECT_FALSE(window.pic().show(nullptr, nullptr));
-}
+    SlideWindow opaque(101, 51);
+    opaque.show(whiteLine());
+    opaque.pic().SetBkColor(7);
+    opaque.paint();
+    EXPECT_EQ(opaque.pixel(50, 25), kBlack);
+    EXPECT_EQ(opaque.pixel(50, 10), kWhite);
+    opaque.pic().SetBkColor(1);
+    opaque.paint();
+    EXPECT_EQ(opaque.pixel(50, 25), kWhite);
 
-TEST(ZemSlidePic, WhiteOnAWhiteBackgroundDrawsBlack)
-{
-    SlideWindow window(101, 51);
-    window.show(whiteLine());
-    window.pic().SetBkColor(7);
-    window.paint();
-    EXPECT_EQ(window.pixel(50, 25), kBlack);
-    EXPECT_EQ(window.pixel(50, 10), kWhite);
-    window.pic().SetBkColor(1);
-    window.paint();
-    EXPECT_EQ(window.pixel(50, 25), kWhite);
-}
-
-TEST(ZemSlidePic, ATransparentControlDrawsOverWhatLiesBehind)
-{
     SlideWindow window(101, 51, WS_EX_TRANSPARENT);
     window.show(whiteLine());
     window.paint();
@@ -225,6 +211,9 @@ TEST(ZemSlidePic, SlidesComeFromFilesLibrariesResourcesAndMemory)
     EXPECT_EQ(width, 572);
     EXPECT_FALSE(pic.show(L"SLIDE3", (kSlides + L"velisp/mylib.slb").c_str()));
     EXPECT_FALSE(pic.getSize(width, height)) << "a failed load leaves the control empty";
+    window.paint();
+    EXPECT_EQ(window.pixel(50, 25), GetSysColor(COLOR_BTNFACE));
+    EXPECT_FALSE(pic.show(nullptr, nullptr));
     EXPECT_FALSE(pic.show(L"SLIDE1", (kSlides + L"velisp/none.slb").c_str()));
     EXPECT_FALSE(pic.show((kSlides + L"velisp/none.sld").c_str(), nullptr));
     EXPECT_FALSE(pic.show(std::wstring(32, L'S').c_str(), (kSlides + L"velisp/mylib.slb").c_str()));
@@ -237,6 +226,8 @@ TEST(ZemSlidePic, SlidesComeFromFilesLibrariesResourcesAndMemory)
     EXPECT_EQ(height, 50);
     EXPECT_EQ(window.pixel(50, 25), kRed) << "the resource's vector runs through the middle";
     EXPECT_EQ(window.pixel(50, 10), kBlack);
+    pic.show(nullptr, 100);
+    EXPECT_FALSE(pic.getSize(width, height)) << "no bytes, no slide";
 }
 
 TEST(ZemSlidePic, LeavesNoGdiObjectBehind)
