@@ -13,27 +13,8 @@ namespace toolstest {
 
 namespace {
 
-std::wstring windowsPath(std::wstring path)
-{
-    std::replace(path.begin(), path.end(), L'/', L'\\');
-    return path;
-}
-
-std::wstring widen(const char* text)
-{
-    std::wstring out;
-    for (const char* p = text; *p; ++p)
-        out += static_cast<wchar_t>(static_cast<unsigned char>(*p));
-    return out;
-}
-
-std::wstring commandLine(const std::wstring& program, const std::vector<std::wstring>& arguments)
-{
-    std::wstring line = L"\"" + program + L"\"";
-    for (const std::wstring& argument : arguments)
-        line += L" \"" + argument + L"\"";
-    return line;
-}
+// A path of the build given with forward slashes, in the platform's form.
+std::filesystem::path windowsPath(const char* path) { return std::filesystem::path(path).make_preferred(); }
 
 int CALLBACK countRecord(HDC, HANDLETABLE*, const ENHMETARECORD* record, int, LPARAM counts)
 {
@@ -45,14 +26,14 @@ int CALLBACK countRecord(HDC, HANDLETABLE*, const ENHMETARECORD* record, int, LP
 
 std::filesystem::path freshFolder(const wchar_t* name)
 {
-    const std::filesystem::path folder = std::filesystem::path(windowsPath(widen(ZEM_BUILD_DIR))) / L"Tests" / name;
+    const std::filesystem::path folder = windowsPath(ZEM_BUILD_DIR) / L"Tests" / name;
     std::error_code ignored;
     std::filesystem::remove_all(folder, ignored);
     std::filesystem::create_directories(folder);
     return folder;
 }
 
-std::filesystem::path slides() { return std::filesystem::path(windowsPath(widen(ZEM_TESTDATA_DIR))) / L"slides"; }
+std::filesystem::path slides() { return windowsPath(ZEM_TESTDATA_DIR) / L"slides"; }
 
 // The child writes into a file that the test reads when it has ended.
 ProgramRun run(const char* program, const std::vector<std::wstring>& arguments)
@@ -68,7 +49,9 @@ ProgramRun run(const char* program, const std::vector<std::wstring>& arguments)
     startup.dwFlags = STARTF_USESTDHANDLES;
     startup.hStdOutput = startup.hStdError = file;
     PROCESS_INFORMATION process = {};
-    std::wstring line = commandLine(windowsPath(widen(program)), arguments);
+    std::wstring line = L"\"" + windowsPath(program).wstring() + L"\"";
+    for (const std::wstring& argument : arguments)
+        line += L" \"" + argument + L"\"";
     if (CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process)) {
         if (WaitForSingleObject(process.hProcess, 120000) != WAIT_OBJECT_0)
             TerminateProcess(process.hProcess, 0xFFFFFFFF);
@@ -88,14 +71,6 @@ int Metafile::count(DWORD type) const
     return found == counts.end() ? 0 : found->second;
 }
 
-int Metafile::total() const
-{
-    int sum = 0;
-    for (const auto& entry : counts)
-        sum += entry.second;
-    return sum;
-}
-
 Metafile readMetafile(const std::filesystem::path& file)
 {
     Metafile out;
@@ -105,25 +80,7 @@ Metafile readMetafile(const std::filesystem::path& file)
     out.read = GetEnhMetaFileHeader(metafile, sizeof out.header, &out.header) != 0;
     EnumEnhMetaFile(nullptr, metafile, countRecord, &out.counts, nullptr);
     DeleteEnhMetaFile(metafile);
-    std::error_code failed;
-    out.fileBytes = static_cast<long long>(std::filesystem::file_size(file, failed));
     return out;
-}
-
-bool pngSize(const std::filesystem::path& file, int& width, int& height)
-{
-    static const unsigned char kSignature[8] = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
-    const std::vector<unsigned char> bytes = readBytes(file);
-    if (bytes.size() < 33 || !std::equal(kSignature, kSignature + 8, bytes.begin()))
-        return false;
-    const auto word = [&bytes](size_t at) {
-        return static_cast<unsigned>(bytes[at]) << 24 | bytes[at + 1] << 16 | bytes[at + 2] << 8 | bytes[at + 3];
-    };
-    if (word(8) != 13 || std::string(bytes.begin() + 12, bytes.begin() + 16) != "IHDR")
-        return false;
-    width = static_cast<int>(word(16));
-    height = static_cast<int>(word(20));
-    return true;
 }
 
 int Picture::inked(int x0, int y0, int x1, int y1) const

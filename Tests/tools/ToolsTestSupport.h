@@ -26,17 +26,11 @@ ProgramRun run(const char* program, const std::vector<std::wstring>& arguments);
 struct Metafile {
     bool read = false;
     ENHMETAHEADER header = {};
-    long long fileBytes = 0;
     std::map<DWORD, int> counts;
     int count(DWORD type) const;
-    int total() const;
 };
 Metafile readMetafile(const std::filesystem::path& file);
 
-// The size a PNG file declares in its header: the eight signature bytes, then
-// an IHDR chunk of 13 bytes with width and height high byte first. False if
-// the bytes aren't a PNG file.
-bool pngSize(const std::filesystem::path& file, int& width, int& height);
 // The pixels of a PNG file decoded by the platform's imaging component, row
 // by row as 0x00RRGGBB; empty if it can't be decoded.
 struct Picture {
