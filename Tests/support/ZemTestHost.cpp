@@ -49,14 +49,6 @@ HWND CZemTestHost::addControl(const wchar_t* windowClass, DWORD style, int id, R
                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
 }
 
-std::vector<UINT> CZemTestHost::codesFrom(UINT id) const {
-    std::vector<UINT> codes;
-    for (const Heard& h : m_heard) {
-        if (h.id == id) codes.push_back(h.code);
-    }
-    return codes;
-}
-
 void CZemTestHost::hear(UINT message, UINT code, UINT id, HWND from) {
     m_heard.push_back(Heard{message, code, id, from != nullptr ? textOf(from) : std::wstring()});
 }
@@ -91,13 +83,6 @@ void CZemTestHost::focus(HWND target) {
     pump();
 }
 
-void CZemTestHost::click(HWND target, POINT client) {
-    const LPARAM at = MAKELPARAM(client.x, client.y);
-    SendMessageW(target, WM_LBUTTONDOWN, MK_LBUTTON, at);
-    SendMessageW(target, WM_LBUTTONUP, 0, at);
-    pump();
-}
-
 void CZemTestHost::postKey(HWND target, UINT virtualKey) {
     const UINT scan = MapVirtualKeyW(virtualKey, MAPVK_VK_TO_VSC);
     PostMessageW(target, WM_KEYDOWN, virtualKey, static_cast<LPARAM>(1 | (scan << 16)));
@@ -114,18 +99,4 @@ LRESULT CZemTestHost::wheel(HWND target, short delta, POINT client, UINT keys) {
     ClientToScreen(target, &screen);
     return SendMessageW(target, WM_MOUSEWHEEL, MAKEWPARAM(keys, static_cast<WORD>(delta)),
                         MAKELPARAM(screen.x, screen.y));
-}
-
-void CZemTestHost::chooseComboItem(HWND combo, int index) {
-    SendMessageW(combo, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
-    SendMessageW(GetParent(combo), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(combo), CBN_SELCHANGE),
-                 reinterpret_cast<LPARAM>(combo));
-    pump();
-}
-
-void CZemTestHost::chooseListBoxItem(HWND list, int index) {
-    SendMessageW(list, LB_SETCURSEL, static_cast<WPARAM>(index), 0);
-    SendMessageW(GetParent(list), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(list), LBN_SELCHANGE),
-                 reinterpret_cast<LPARAM>(list));
-    pump();
 }

@@ -29,24 +29,17 @@ public:
     // WM_COMMAND and WM_NOTIFY that reached the host, in order.
     const std::vector<Heard>& heard() const { return m_heard; }
     void clearHeard() { m_heard.clear(); }
-    // The codes heard from one control, in order.
-    std::vector<UINT> codesFrom(UINT id) const;
 
     // Dispatches everything queued for this thread.
     static void pump();
     // Moves the focus as a user's Tab or click would, and lets it settle.
     static void focus(HWND target);
-    // Left button down and up at a client point.
-    static void click(HWND target, POINT client);
     // Key down and up, queued for the loop that runs next (a modal loop, or pump).
     static void postKey(HWND target, UINT virtualKey);
     // Characters as typed.
     static void type(HWND target, const wchar_t* text);
     // A wheel turn over a client point, with keys held (MK_...).
     static LRESULT wheel(HWND target, short delta, POINT client, UINT keys = 0);
-    // A choice in a combo box or list box, notified to the parent as a user's is.
-    static void chooseComboItem(HWND combo, int index);
-    static void chooseListBoxItem(HWND list, int index);
 
 private:
     static LRESULT CALLBACK windowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
