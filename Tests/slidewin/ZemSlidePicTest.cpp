@@ -92,14 +92,9 @@ TEST(ZemSlidePic, PaintsTheSlideCentredOnItsBackground)
     EXPECT_EQ(wide.pixel(150, 90), kRed);
     EXPECT_EQ(wide.pixel(20, 50), kBlue) << "the background left of the raster";
     EXPECT_EQ(wide.pixel(151, 50), kBlue);
-    long width = 0, height = 0;
-    ASSERT_TRUE(wide.pic().getSize(width, height));
-    EXPECT_EQ(width, 100);
-    EXPECT_EQ(height, 50);
 
     wide.pic().SetBkColor(2);
     EXPECT_FALSE(GetUpdateRect(wide.pic(), nullptr, FALSE)) << "the setter doesn't repaint";
-    EXPECT_EQ(wide.pic().BackColor(), 2);
     wide.paint();
     EXPECT_EQ(wide.pixel(20, 50), RGB(255, 255, 0));
 
