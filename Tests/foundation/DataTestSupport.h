@@ -9,14 +9,13 @@
 #include <fstream>
 #include <string>
 
-// Helpers of the data tree tests: a fresh folder per test, files written
-// byte for byte, captured diagnostics and a clean configuration.
+// Helpers of the data tests: a fresh folder per test, files written byte for
+// byte, captured diagnostics and a clean configuration.
 namespace datatest {
 
 inline std::wstring widen(const std::string& ascii) { return std::wstring(ascii.begin(), ascii.end()); }
 
-// An empty folder in the build tree for one test; as a wide name it is what
-// the library takes.
+// An empty folder in the build tree for one test.
 inline std::string freshFolder(const std::string& name) {
     const std::filesystem::path folder = std::filesystem::path(ZEM_BUILD_DIR) / "data-tests" / name;
     std::error_code ignored;
@@ -25,10 +24,7 @@ inline std::string freshFolder(const std::string& name) {
     return folder.string();
 }
 
-inline void writeBytes(const std::string& path, const std::string& bytes) {
-    std::ofstream out(path, std::ios::binary | std::ios::trunc);
-    out << bytes;
-}
+inline void writeBytes(const std::string& path, const std::string& bytes) { std::ofstream(path, std::ios::binary) << bytes; }
 
 inline std::string readBytes(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
@@ -39,11 +35,7 @@ inline void setEnv(const char* name, const char* value) {
 #ifdef _WIN32
     _putenv_s(name, value ? value : "");
 #else
-    if (value) {
-        setenv(name, value, 1);
-    } else {
-        unsetenv(name);
-    }
+    if (value) setenv(name, value, 1); else unsetenv(name);
 #endif
 }
 
@@ -62,8 +54,7 @@ private:
     ZEM::DumpSink m_previous;
 };
 
-// An empty configuration in memory, a fresh message store and German as the
-// language, for each test that touches them.
+// An empty configuration in memory, a fresh message store and German as the language.
 inline void resetConfiguration() {
     const CZemDataItem empty(CZemDataItem::typeDir);
     ZEM::cfgSet(&empty);

@@ -32,7 +32,8 @@ TEST(Measure, DashesAndDotsFollowThePattern) {
     EXPECT_NEAR(fitted[3][-1].m_end.x, 4.0, 1e-12);
     const CZemArrayTempl<CZemVertexArray> dots = ZEM::g_vl_measure(line(0, 0, 10, 0), 1.0, CZemLineParm(0.0, -2.0));
     ASSERT_EQ(dots.len(), 6) << "dots at every step up to the end";
-    for (int k = 0; k < 6; ++k) EXPECT_TRUE(dots[k][0].m_start == dots[k][0].m_end && std::fabs(dots[k][0].m_start.x - 2.0 * k) < 1e-12);
+    for (int k = 0; k < 6; ++k)
+        EXPECT_TRUE(dots[k][0].m_start == dots[k][0].m_end && std::fabs(dots[k][0].m_start.x - 2.0 * k) < 1e-12) << k;
 }
 
 TEST(Measure, DashSumsMatchThePatternOnArcsAndCorners) {

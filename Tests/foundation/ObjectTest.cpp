@@ -124,7 +124,6 @@ TEST_F(Object, SolidsFromStoredBodiesWithHoles) {
     CZemDataItem* hole = set(set(new CZemDataItem(CZemDataItem::typeDir), L"MOV", CZemVector3d(5, 3, 0)), L"INSUNIT", 5);
     hole->mkDir()->insert(&CZemDataKey().set(L"GEN"), outline(2, 20, 0, 4), 0);
     plate.getDir()->insert(&CZemDataKey().set(L"HOLE\\1"), hole, 0);
-
     CZem_Solid solid;
     ASSERT_TRUE(zemObjModel(solid, &plate));
     CZemArrayTempl<CZemVertexArrayEx> visible, hidden;
@@ -138,7 +137,6 @@ TEST_F(Object, SolidsFromStoredBodiesWithHoles) {
     for (int i = 0; i < hidden.len(); ++i)
         bore += std::fabs(hidden[i].m_direction.z) > 0.999 && std::fabs(std::fabs(hidden[i][0].m_start.x - 50) - 10) < 1e-6;
     EXPECT_EQ(2, bore) << "the bore of 20 mm at 50 mm shows as two hidden lines";
-
     CZemDataItem two(CZemDataItem::typeDir);
     two.mkDir()->insert(&CZemDataKey().set(L"SOLID\\A"), new CZemDataItem(plate), 0);
     two.getDir()->insert(&CZemDataKey().set(L"SOLID\\B"), new CZemDataItem(plate), 0);

@@ -1,9 +1,16 @@
+#include "DataTestSupport.h"
+#include "ZemDataAccess.h"
+#include "ZemDataIterator.h"
+#include "ZemMessages.h"
 #include "ZemOutline.h"
+#include "ZemOutlineCatalogue.h"
 #include "ZemPolyline.h"
+#include "ZemResbuf.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <string>
 #include <vector>
 
 namespace {
@@ -25,7 +32,7 @@ double areaOf(const CZemVertexArray& vl) {
     return area;
 }
 
-CZemArrayTempl<double> params(std::initializer_list<double> values) {
+CZemArrayTempl<double> params(const std::vector<double>& values) {
     CZemArrayTempl<double> p;
     for (const double v : values) p.append(v);
     return p;
@@ -39,18 +46,31 @@ struct Expected {
 };
 
 void checkForm(const Expected& e, const CZemVector3d& base) {
-    CZemArrayTempl<double> p;
-    for (const double v : e.parameters) p.append(v);
-    const CZemVertexArray vl = ZEM::g_outline(e.form, base, p);
+    const CZemVertexArray vl = ZEM::g_outline(e.form, base, params(e.parameters));
     ASSERT_GT(vl.len(), 1) << "form " << e.form;
     EXPECT_TRUE(vl.isClosed() && vl.isContinuous() && vl.normal() == CZemVector3d::kZAxis) << "form " << e.form;
     CZemVertexArray atOrigin = vl;
     atOrigin.move(-base);
     EXPECT_NEAR(areaOf(atOrigin), e.area, 1e-9) << "form " << e.form << ", counter-clockwise";
     CZemPoint3d lo, hi;
-    ASSERT_TRUE(vl.extents(lo, hi));
+    EXPECT_TRUE(vl.extents(lo, hi));
     EXPECT_NEAR(lo.distanceTo(CZemPoint3d(e.x0, e.y0, 0) + base), 0.0, 1e-9) << "form " << e.form;
     EXPECT_NEAR(hi.distanceTo(CZemPoint3d(e.x1, e.y1, 0) + base), 0.0, 1e-9) << "form " << e.form;
+}
+
+template <class T>
+T read(const CZemDataItem* item, const CZemString& key, T value) {
+    ZEM::itemGet(item, key, value);
+    return value;
+}
+
+CZemString parm(int n, const wchar_t* key) { return CZemString().format(L"PARM%d\\%s", n, key); }
+
+double defaultValue(const CZemDataItem* entry, int n, int range) {
+    double value = 0.0;
+    const CZemDataKey key = CZemDataKey().appendString(CZemString().format(L"PARM%d", n)).appendString(L"VAL").appendNumber(range);
+    entry->get(value, &key);
+    return value;
 }
 
 }  // namespace
@@ -101,4 +121,39 @@ TEST(Outline, SizesThatMakeNoShapeGiveNothing) {
     EXPECT_EQ(ZEM::g_outline(11, o, params({6, 8, 3, 2})).len(), 0);
     EXPECT_EQ(ZEM::g_outline(21, o, params({5, 2, 360})).len(), 0);
     EXPECT_EQ(ZEM::g_outline(1, o, params({4, 3, 99, 99, 99, 99, 99})).len(), 4) << "extra parameters are ignored";
+}
+
+TEST(OutlineCatalogue, EveryFormHasItsTextsAndDefaultsThatMakeOutlines) {
+    datatest::resetConfiguration();
+    const std::wstring resources = datatest::widen(std::string(ZEM_SOURCE_DIR) + "/Source/resources");
+    ZEM::dataItemSet(ZEM::cfg_dir_make(L""), &CZemDataKey().set(L"SUPPORT"), resources.c_str());
+    const auto expectTexts = [](const CZemString& key) {
+        CZemString text;
+        EXPECT_TRUE(ZEM::msgFind(L"ZEM_", key, L"DEU", text) && ZEM::msgFind(L"ZEM_", key, L"ENU", text)) << key;
+    };
+    CZemDataItem catalogue;
+    ASSERT_FALSE(zemOutlineInit(nullptr));
+    ASSERT_TRUE(zemOutlineInit(&catalogue));
+    int id = 1;
+    CZemDataIterator it(&catalogue);
+    for (it.start(); !it.done(); it.next(), ++id) {
+        const CZemDataItem* entry = it.item();
+        ASSERT_TRUE(entry->key().type() == ZEM::RTSHORT && static_cast<long>(entry->key()) == id) << "integer keys, in order";
+        expectTexts(read(entry, L"LABEL", CZemString()));
+        const int count = read(entry, L"PARMS", 0);
+        ASSERT_TRUE(count >= 1 && count <= 6) << "the dialog has six fields";
+        for (int n = 1; n <= count; ++n) {
+            const CZemString type = read(entry, parm(n, L"TYPE"), CZemString());
+            EXPECT_TRUE(type == L"L" || type == L"A" || type == L"N") << id << " " << n;
+            expectTexts(read(entry, parm(n, L"LABEL"), CZemString()));
+            if (it->get(&CZemDataKey().set(parm(n, L"MINUSP")))) expectTexts(read(entry, parm(n, L"MINUSP"), CZemString()));
+        }
+        for (int range = 1; range <= 4; ++range) {
+            CZemArrayTempl<double> values;
+            for (int n = 1; n <= count; ++n) values.append(defaultValue(entry, n, range));
+            EXPECT_TRUE(ZEM::g_outline(id, CZemVector3d(), values).isClosed()) << id << " range " << range;
+        }
+    }
+    EXPECT_EQ(22, id) << "the 21 forms of ZEM::g_outline";
+    datatest::resetConfiguration();
 }
