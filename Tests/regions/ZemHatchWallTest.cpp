@@ -9,7 +9,7 @@
 
 // A wall elevation 6000 by 2800, the door opening cut into its outline and
 // the window opening a hole, hatched with the patterns of the shipped
-// pattern file. Pictures go to regions_wall_<pattern>.png in the build tree.
+// pattern file.
 TEST(HatchWall, ShippedPatternsFillTheWallAndLeaveTheOpeningsFree) {
     CZemPatternFile file;
     const std::string path = std::string(ZEM_SOURCE_DIR) + "/Source/resources/zem.pat";
@@ -21,21 +21,18 @@ TEST(HatchWall, ShippedPatternsFillTheWallAndLeaveTheOpeningsFree) {
     const struct {
         const wchar_t* name;
         double scale;
-        const char* file;
-    } cases[] = {{L"ANSI31", 20.0, "ansi31"}, {L"BRICK", 8.0, "brick"}, {L"GRAVEL", 6.0, "gravel"},
-                 {L"HONEY", 10.0, "honey"}, {L"DOTS", 30.0, "dots"}, {L"NET3", 12.0, "net3"}};
+    } cases[] = {{L"ANSI31", 20.0}, {L"BRICK", 8.0}, {L"GRAVEL", 6.0},
+                 {L"HONEY", 10.0},  {L"DOTS", 30.0}, {L"NET3", 12.0}};
     for (const auto& c : cases) {
         CZemArrayTempl<CZemArrayTempl<double>> lines;
-        ASSERT_TRUE(file.get(c.name, lines)) << c.file;
+        ASSERT_TRUE(file.get(c.name, lines)) << c.name;
         app.setPattern(c.name, lines);
         const auto hatch = zem_gdx_image_reg_hatch2(wall, CZemMatrix3d::kIdentity, CZemHatchProp(c.name, 0.0, c.scale));
-        EXPECT_GT(hatch.len(), 10) << c.file;
-        EXPECT_EQ(regtest::outsidePieces(hatch, wall, 1e-6), "") << c.file;
-        if (c.file == std::string("ansi31")) {
+        EXPECT_GT(hatch.len(), 10) << c.name;
+        EXPECT_EQ(regtest::outsidePieces(hatch, wall, 1e-6), "") << c.name;
+        if (std::wstring(c.name) == L"ANSI31") {
             const double area = 6000.0 * 2800.0 - 1000.0 * 2100.0 - 1800.0 * 1200.0;
             EXPECT_NEAR(regtest::totalLength(hatch), area / (lines[0][4] * c.scale), std::hypot(2800.0, 2800.0));
         }
-        const std::string picture = std::string(ZEM_BUILD_DIR) + "/regions_wall_" + c.file + ".png";
-        EXPECT_TRUE(regtest::writePicture(picture, hatch, wall, 900)) << picture;
     }
 }

@@ -49,41 +49,33 @@ void expectIntervals(const Intervals& actual, const Intervals& expected) {
 
 }  // namespace
 
-TEST(LineMeasure, TheClassicPatternStartsAndEndsWithHalfDashesAndFillsTheSegment) {
+// The classic pattern starts and ends with half dashes; every vertex restarts
+// it, so that corners get two half dashes; short segments stay solid.
+TEST(LineMeasure, HalfDashesAtTheEndsOfEachSegment) {
     CZemVertexArray vl = segment(0, 0, 4, 0);
     ASSERT_TRUE(zem_gdx_image_vl_measure(vl, values({1.0, -0.5}), 1));
     expectIntervals(coveredAlongX(vl), {{0.0, 0.5}, {1.5, 2.5}, {3.5, 4.0}});
 
-    CZemVertexArray plain = segment(0, 0, 4, 0);
-    ASSERT_TRUE(zem_gdx_image_vl_measure(plain, values({1.0, -0.5}), 2));
-    // Fitted but not aligned: the gap grows to 1.0.
-    expectIntervals(coveredAlongX(plain), {{0.0, 1.0}, {2.0, 3.0}});
-}
-
-TEST(LineMeasure, ShortSegmentsStaySolidAndShortPatternsAreRefused) {
-    CZemVertexArray vl = segment(0, 0, 1.5, 0, 2.0);
-    ASSERT_TRUE(zem_gdx_image_vl_measure(vl, values({1.0, -0.5}), 1));
-    ASSERT_EQ(vl.len(), 1);
-    EXPECT_EQ(vl[0].m_end, CZemPoint3d(1.5, 0.0, 2.0)) << "heights kept on a solid segment";
-
-    CZemVertexArray untouched = segment(0, 0, 9, 0, 1.0);
-    EXPECT_FALSE(zem_gdx_image_vl_measure(untouched, values({1.0}), 1));
-    ASSERT_EQ(untouched.len(), 1);
-    EXPECT_EQ(untouched[0].m_end, CZemPoint3d(9.0, 0.0, 1.0));
-}
-
-TEST(LineMeasure, EveryVertexRestartsThePatternSoCornersGetTwoHalfDashes) {
-    CZemVertexArray vl = segment(0, 0, 4, 0);
-    vl.append(CZemVertex(CZemPoint3d(4, 0, 0), CZemPoint3d(4, 4, 0), 0.0));
-    ASSERT_TRUE(zem_gdx_image_vl_measure(vl, values({1.0, -0.5}), 1));
+    CZemVertexArray corner = segment(0, 0, 4, 0);
+    corner.append(CZemVertex(CZemPoint3d(4, 0, 0), CZemPoint3d(4, 4, 0), 0.0));
+    ASSERT_TRUE(zem_gdx_image_vl_measure(corner, values({1.0, -0.5}), 1));
     double atCorner = 0.0, total = 0.0;
-    for (int k = 0; k < vl.len(); ++k) {
-        const double length = vl[k].m_start.distanceTo(vl[k].m_end);
+    for (int k = 0; k < corner.len(); ++k) {
+        const double length = corner[k].m_start.distanceTo(corner[k].m_end);
         total += length;
-        if (vl[k].m_start == CZemPoint3d(4, 0, 0) || vl[k].m_end == CZemPoint3d(4, 0, 0)) atCorner += length;
+        if (corner[k].m_start == CZemPoint3d(4, 0, 0) || corner[k].m_end == CZemPoint3d(4, 0, 0)) atCorner += length;
     }
     EXPECT_NEAR(atCorner, 1.0, 1e-9);
     EXPECT_NEAR(total, 4.0, 1e-9);
+
+    CZemVertexArray solid = segment(0, 0, 1.5, 0, 2.0);
+    ASSERT_TRUE(zem_gdx_image_vl_measure(solid, values({1.0, -0.5}), 1));
+    ASSERT_EQ(solid.len(), 1);
+    EXPECT_EQ(solid[0].m_end, CZemPoint3d(1.5, 0.0, 2.0)) << "heights kept on a solid segment";
+    CZemVertexArray untouched = segment(0, 0, 9, 0, 1.0);
+    EXPECT_FALSE(zem_gdx_image_vl_measure(untouched, values({1.0}), 1)) << "a pattern needs two entries";
+    ASSERT_EQ(untouched.len(), 1);
+    EXPECT_EQ(untouched[0].m_end, CZemPoint3d(9.0, 0.0, 1.0));
 }
 
 TEST(LineMeasure, ModeZeroLaysThePatternOnceAlongEachRunOnTheGround) {
