@@ -16,7 +16,7 @@ const wchar_t* const kWords[] = {L"TL", L"TC", L"TR", L"CL", L"CC", L"CR", L"BL"
 }  // namespace
 
 TEST(TextLayout, CharactersOutsideTheFontTakeNoRoom) {
-    for (const wchar_t* word : {L"", L"TL", L"CC", L"BR", L"XX"}) {
+    for (const wchar_t* word : {L"", L"CC", L"XX"}) {
         EXPECT_EQ(layout(L"", word).len(), 0) << "empty text, word " << word;
         EXPECT_EQ(layout(L"  \n\t", word).len(), 0) << "blanks, word " << word;
     }
