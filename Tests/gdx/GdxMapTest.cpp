@@ -19,46 +19,21 @@ protected:
         for (int key = 1; key <= 600; ++key) gdxMapRemoveAt(key);
         ZEM::cfgReset();
     }
-
-    // Point defaults and colours in the forms the configuration knows.
-    static void configure() {
-        CZemDataItem root(CZemDataItem::typeDir);
-        const CZemDataKey size(L"KAL_MENU\\COLOR\\PDSIZE"), style(L"KAL_MENU\\COLOR\\PDMODE"),
-            base(L"KAL_MENU\\COLOR\\BASE"), highlight(L"KAL_MENU\\COLOR\\HIGHLIGHT"),
-            back(L"KAL_MENU\\COLOR\\BACKGROUND");
-        ZEM::dataItemSet(&root, &size, 4);
-        ZEM::dataItemSet(&root, &style, 35);
-        ZEM::dataItemSet(&root, &base, 5);
-        ZEM::dataItemSet(&root, &highlight, L"255,0,0");
-        ZEM::dataItemSet(&root, &back, 7);
-        ZEM::cfgSet(&root);
-    }
 };
 
-}  // namespace
-
-TEST_F(GdxMap, KeysAndReplacement) {
-    EXPECT_EQ(gdxMapKeyNew(), 1);
-    EXPECT_EQ(gdxMapKeyNew(), 1) << "asking does not reserve the key";
-    CZemGDX g = newList();
-    g.ColorTabSet(GDX_CM_AXIS, indexColor(5));
-    for (int key : {4, 1, 2}) gdxMapSetAt(key, g);
-    EXPECT_EQ(gdxMapKeyNew(), 3);
-    CZemGDX* stored = getGdxFromMap(4);
-    ASSERT_TRUE(stored && stored != &g && stored->ColorTabLenGet() == 3);
-    CZemGDX other(indexColor(250), CZemMatrix3d().setToScaling(2.0, CZemPoint3d()), 4.0, 35, CZemPoint3d(),
-                  CZemPoint3d(1, 1, 0));
-    gdxMapSetAt(4, other);
-    EXPECT_EQ(getGdxFromMap(4), stored) << "replacing keeps the address";
-    EXPECT_TRUE(stored->ColorTabLenGet() == 0 && stored->pdModeGet() == 35UL);
-    EXPECT_TRUE(gdxMapRemoveAt(2));
-    EXPECT_FALSE(gdxMapRemoveAt(2));
-    EXPECT_EQ(gdxMapKeyNew(), 2);
+template <class T>
+void put(CZemDataItem& dir, const wchar_t* key, const T& value) {
+    const CZemDataKey path(key);
+    ZEM::dataItemSet(&dir, &path, value);
 }
+
+}  // namespace
 
 // The search by powers of two against a set, over counts that cross several
 // powers of two and the growth of the node array past 16.
 TEST_F(GdxMap, AgreesWithASetUnderRandomInsertionsAndRemovals) {
+    EXPECT_EQ(gdxMapKeyNew(), 1);
+    EXPECT_EQ(gdxMapKeyNew(), 1) << "asking does not reserve the key";
     std::mt19937 random(17);
     std::set<int> expected;
     CZemGDX g = newList();
@@ -80,13 +55,27 @@ TEST_F(GdxMap, AgreesWithASetUnderRandomInsertionsAndRemovals) {
         ASSERT_EQ(found != nullptr, expected.count(key) == 1) << key;
         EXPECT_TRUE(!found || found->pdModeGet() == static_cast<unsigned long>(key)) << key;
     }
+    const int key = *expected.begin();
+    CZemGDX* stored = getGdxFromMap(key);
+    g.ColorTabSet(GDX_CM_AXIS, indexColor(5));
+    gdxMapSetAt(key, g);
+    EXPECT_EQ(getGdxFromMap(key), stored) << "replacing keeps the address";
+    EXPECT_TRUE(stored != &g && stored->ColorTabLenGet() == 3);
 }
 
-TEST_F(GdxMap, NewListsTakeTheConfiguration) {
+// Point defaults and colours in the forms the configuration knows, then the
+// settings a caller stores.
+TEST_F(GdxMap, NewListsTakeTheConfigurationAndStoredSettings) {
     const CZemGDX* bare = getGdxFromMap(createGdxInMap(nullptr));
     ASSERT_NE(bare, nullptr);
     EXPECT_TRUE(bare->projMtxGet() == CZemMatrix3d() && bare->ColorTabLenGet() == 5 && bare->pdModeGet() == 0UL);
-    configure();
+    CZemDataItem root(CZemDataItem::typeDir);
+    put(root, L"KAL_MENU\\COLOR\\PDSIZE", 4);
+    put(root, L"KAL_MENU\\COLOR\\PDMODE", 35);
+    put(root, L"KAL_MENU\\COLOR\\BASE", 5);
+    put(root, L"KAL_MENU\\COLOR\\HIGHLIGHT", L"255,0,0");
+    put(root, L"KAL_MENU\\COLOR\\BACKGROUND", 7);
+    ZEM::cfgSet(&root);
     const CZemGDX made;
     for (const CZemGDX* g : {static_cast<const CZemGDX*>(getGdxFromMap(createGdxInMap(nullptr))), &made}) {
         EXPECT_TRUE(g->pdSizeGet() == 4.0 && g->pdModeGet() == 35UL);
@@ -95,21 +84,15 @@ TEST_F(GdxMap, NewListsTakeTheConfiguration) {
         EXPECT_TRUE(g->colorTabGet(GDX_CM_REFER) == CZemColor());
         EXPECT_EQ(g->backColorGet().oleColor(), indexColor(7).oleColor());
     }
-}
 
-TEST_F(GdxMap, NewListsReadStoredSettings) {
-    configure();
     CZemDataItem settings(CZemDataItem::typeDir);
-    const CZemDataKey size(L"PDSIZE"), view(L"EXTVIEW"), matrix(L"MTX"), rgb(L"RGB"), color(L"COLOR"), book(L"TBL");
-    ZEM::dataItemSet(&settings, &size, 9);
+    put(settings, L"PDSIZE", 9);
     CZemPoint3dArray corners;
-    corners.append(CZemPoint3d(-1, -2, 0));
-    corners.append(CZemPoint3d(5, 6, 0));
-    ZEM::dataItemSet(&settings, &view, corners);
+    put(settings, L"EXTVIEW", corners.append(CZemPoint3d(-1, -2, 0)).append(CZemPoint3d(5, 6, 0)));
     CZemMatrix3d proj;
     proj.setToRotation(0.5, CZemVector3d(0, 0, 1), CZemPoint3d(1, 1, 0));
-    ZEM::dataItemSet(&settings, &matrix, static_cast<const CZemMatrix3d::Cells&>(proj));
-    ZEM::dataItemSet(&settings, &rgb, L"65280");
+    put(settings, L"MTX", static_cast<const CZemMatrix3d::Cells&>(proj));
+    put(settings, L"RGB", L"65280");
     const CZemGDX* g = getGdxFromMap(createGdxInMap(&settings));
     ASSERT_NE(g, nullptr);
     EXPECT_TRUE(g->pdSizeGet() == 9.0 && g->pdModeGet() == 35UL && g->projMtxGet() == proj);
@@ -117,9 +100,8 @@ TEST_F(GdxMap, NewListsReadStoredSettings) {
     g->extMaxViewGet(lo, hi);
     EXPECT_TRUE(lo == CZemPoint3d(-1, -2, 0) && hi == CZemPoint3d(5, 6, 0));
     EXPECT_EQ(g->backColorGet().colorIndex(), 7) << "RGB without COLOR is ignored";
-
-    ZEM::dataItemSet(&settings, &color, 3);
-    ZEM::dataItemSet(&settings, &book, L"RAL");
+    put(settings, L"COLOR", 3);
+    put(settings, L"TBL", L"RAL");
     g = getGdxFromMap(createGdxInMap(&settings));
     EXPECT_TRUE(g->backColorGet().oleColor() == 0x00FF00UL && g->backColorGet().bookName() == L"RAL");
     CZemDataItem value;

@@ -54,10 +54,8 @@ inline void addRegion(CZemGDX& g, const CZemArrayTempl<int>& stack, const CZemAr
     g.imageReg(stack, flags, regl, indexColor(3), mtx, CZemArrayTempl<double>(), 1.0, 1, indexColor(4));
 }
 
-inline void expectPoint(const CZemPoint3d& actual, double x, double y, double z, double tolerance = 1e-9) {
-    EXPECT_NEAR(actual.x, x, tolerance);
-    EXPECT_NEAR(actual.y, y, tolerance);
-    EXPECT_NEAR(actual.z, z, tolerance);
+inline void expectPoint(const CZemPoint3d& actual, double x, double y, double z) {
+    EXPECT_LT(actual.distanceTo(CZemPoint3d(x, y, z)), 1e-9) << actual.x << ", " << actual.y << ", " << actual.z;
 }
 
 inline void expectExtents(const CZemGDX& g, const CZemPoint3d& lo, const CZemPoint3d& hi) {
