@@ -1,7 +1,10 @@
 #include "RegionsTestSupport.h"
 
+#include "ZemPngWriter.h"
+
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <sstream>
 
 namespace regtest {
@@ -85,6 +88,33 @@ bool TestApp::hatchPattern(const wchar_t* name, CZemArrayTempl<CZemArrayTempl<do
     if (found == m_patterns.end()) return false;
     lines = found->second;
     return true;
+}
+
+bool writePicture(const std::string& path, const CZemArrayTempl<CZemVertexArray>& lines,
+                  const CZemArrayTempl<CZemVertexArray>& regs, int width) {
+    CZemPoint3d lo, hi;
+    if (!regs[0].extents(lo, hi)) return false;
+    const double scale = (width - 20) / std::max(hi.x - lo.x, 1e-9);
+    const int height = static_cast<int>((hi.y - lo.y) * scale) + 20;
+    std::vector<std::uint8_t> rgb(static_cast<size_t>(width) * height * 3, 255);
+    const auto draw = [&](const CZemVertex& v, std::uint8_t shade) {
+        const double ax = 10 + (v.m_start.x - lo.x) * scale, ay = height - 10 - (v.m_start.y - lo.y) * scale;
+        const double bx = 10 + (v.m_end.x - lo.x) * scale, by = height - 10 - (v.m_end.y - lo.y) * scale;
+        const int steps = static_cast<int>(std::max(std::fabs(bx - ax), std::fabs(by - ay))) + 1;
+        for (int s = 0; s <= steps; ++s) {
+            const long x = std::lround(ax + (bx - ax) * s / steps), y = std::lround(ay + (by - ay) * s / steps);
+            if (x < 0 || y < 0 || x >= width || y >= height) continue;
+            std::uint8_t* pixel = &rgb[(static_cast<size_t>(y) * width + x) * 3];
+            pixel[0] = pixel[1] = pixel[2] = std::min(pixel[0], shade);
+        }
+    };
+    for (int k = 0; k < regs.len(); ++k) {
+        for (int v = 0; v < regs[k].len(); ++v) draw(regs[k][v], 140);
+    }
+    for (int k = 0; k < lines.len(); ++k) {
+        for (int v = 0; v < lines[k].len(); ++v) draw(lines[k][v], 0);
+    }
+    return CZemPngWriter::write(path, width, height, rgb);
 }
 
 }  // namespace regtest

@@ -29,6 +29,11 @@ double totalLength(const CZemArrayTempl<CZemVertexArray>& lines);
 std::string outsidePieces(const CZemArrayTempl<CZemVertexArray>& lines, const CZemArrayTempl<CZemVertexArray>& regs,
                           double tol);
 
+// Lines (black) and region outlines (grey) drawn into a PNG picture of the
+// given width; false if the file cannot be written.
+bool writePicture(const std::string& path, const CZemArrayTempl<CZemVertexArray>& lines,
+                  const CZemArrayTempl<CZemVertexArray>& regs, int width);
+
 // An application object with the hatch patterns the test sets, installed
 // for its lifetime.
 class TestApp : public CZemApp {

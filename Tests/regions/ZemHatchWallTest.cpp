@@ -9,7 +9,7 @@
 
 // A wall elevation 6000 by 2800, the door opening cut into its outline and
 // the window opening a hole, hatched with the patterns of the shipped
-// pattern file.
+// pattern file. Pictures go to regions_wall_<pattern>.png in the build tree.
 TEST(HatchWall, ShippedPatternsFillTheWallAndLeaveTheOpeningsFree) {
     CZemPatternFile file;
     const std::string path = std::string(ZEM_SOURCE_DIR) + "/Source/resources/zem.pat";
@@ -34,5 +34,8 @@ TEST(HatchWall, ShippedPatternsFillTheWallAndLeaveTheOpeningsFree) {
             const double area = 6000.0 * 2800.0 - 1000.0 * 2100.0 - 1800.0 * 1200.0;
             EXPECT_NEAR(regtest::totalLength(hatch), area / (lines[0][4] * c.scale), std::hypot(2800.0, 2800.0));
         }
+        const std::wstring name(c.name);
+        const std::string picture = std::string(ZEM_BUILD_DIR) + "/regions_wall_" + std::string(name.begin(), name.end()) + ".png";
+        EXPECT_TRUE(regtest::writePicture(picture, hatch, wall, 900)) << picture;
     }
 }
