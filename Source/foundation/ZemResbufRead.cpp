@@ -85,13 +85,29 @@ bool readArray(const resbuf*& rb, T& out, ReadElement readElement) {
     return true;
 }
 
-bool readRegion(const resbuf*& rb, CZemArrayTempl<CZemVertexArray>& out) {
-    return readArray(rb, out, [](const resbuf*& p, CZemArrayTempl<CZemVertexArray>& region) {
-        CZemVertexArray contour;
-        if (!readPolyline(p, contour)) return false;
-        region.append(contour);
+// A list whose elements each read as one Element, appended in order.
+template <class Element, class Array>
+bool readArrayOf(const resbuf*& rb, Array& out, bool (*readElement)(const resbuf*&, Element&)) {
+    return readArray(rb, out, [&](const resbuf*& p, Array& values) {
+        Element element;
+        if (!readElement(p, element)) return false;
+        values.append(element);
         return true;
     });
+}
+
+bool readRegion(const resbuf*& rb, CZemArrayTempl<CZemVertexArray>& out) {
+    return readArrayOf<CZemVertexArray>(rb, out, readPolyline);
+}
+
+// A whole number in the range of int; the position stays on failure.
+bool readInt(const resbuf*& rb, int& out) {
+    long long x = 0;
+    const resbuf* p = rb;
+    if (!rbRead(p, x) || x < INT_MIN || x > INT_MAX) return false;
+    rb = p;
+    out = static_cast<int>(x);
+    return true;
 }
 
 }  // namespace
@@ -158,42 +174,14 @@ bool rbRead(const resbuf*& rb, CZemString& out) {
 
 bool rbRead(const resbuf*& rb, CZemVertexArray& out) { return readPolyline(rb, out); }
 
-bool rbRead(const resbuf*& rb, CZemArrayTempl<int>& out) {
-    return readArray(rb, out, [](const resbuf*& p, CZemArrayTempl<int>& values) {
-        long long x = 0;
-        const resbuf* q = p;
-        if (!rbRead(q, x) || x < INT_MIN || x > INT_MAX) return false;
-        p = q;
-        values.append(static_cast<int>(x));
-        return true;
-    });
-}
+bool rbRead(const resbuf*& rb, CZemArrayTempl<int>& out) { return readArrayOf<int>(rb, out, readInt); }
 
-bool rbRead(const resbuf*& rb, CZemArrayTempl<CZemString>& out) {
-    return readArray(rb, out, [](const resbuf*& p, CZemArrayTempl<CZemString>& texts) {
-        CZemString text;
-        if (!rbRead(p, text)) return false;
-        texts.append(text);
-        return true;
-    });
-}
+bool rbRead(const resbuf*& rb, CZemArrayTempl<CZemString>& out) { return readArrayOf<CZemString>(rb, out, rbRead); }
 
-bool rbRead(const resbuf*& rb, CZemPoint3dArray& out) {
-    return readArray(rb, out, [](const resbuf*& p, CZemPoint3dArray& points) {
-        CZemPoint3d point;
-        if (!rbRead(p, point)) return false;
-        points.append(point);
-        return true;
-    });
-}
+bool rbRead(const resbuf*& rb, CZemPoint3dArray& out) { return readArrayOf<CZemPoint3d>(rb, out, rbRead); }
 
 bool rbRead(const resbuf*& rb, RegionLists& out) {
-    return readArray(rb, out, [](const resbuf*& p, RegionLists& regions) {
-        CZemArrayTempl<CZemVertexArray> region;
-        if (!readRegion(p, region)) return false;
-        regions.append(region);
-        return true;
-    });
+    return readArrayOf<CZemArrayTempl<CZemVertexArray>>(rb, out, readRegion);
 }
 
 bool rbReadMatrix(const resbuf*& rb, double (*out)[4]) {
@@ -226,11 +214,11 @@ CZemVertexArray& fromRb(CZemVertexArray& out, resbuf*& rb) {
 RegionLists& fromRb(RegionLists& out, resbuf*& rb, int append) {
     const resbuf* p = rb;
     RegionLists regions;
-    if (rbRead(p, regions)) {
-        if (!append) out.setLogicalLength(0);
+    const bool read = rbRead(p, regions);
+    if (!append) out.setLogicalLength(0);
+    if (read) {
         for (int k = 0; k < regions.len(); ++k) out.append(regions[k]);
     } else {
-        if (!append) out.setLogicalLength(0);
         p = rbSkip(p);
     }
     rb = const_cast<resbuf*>(p);

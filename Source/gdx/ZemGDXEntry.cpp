@@ -6,10 +6,16 @@
 
 namespace {
 
-// A line or region entered without a line type is drawn continuous.
-void storeLinetype(CZemArrayTempl<double>& out, const CZemArrayTempl<double>& linetype) {
-    out = linetype;
-    if (out.isEmpty()) out.append(1.0);
+// The pen of a line or region. One entered without a line type is drawn
+// continuous.
+void storePen(CZemDisplayItem& item, const CZemColor& color, const CZemMatrix3d& mtx,
+              const CZemArrayTempl<double>& linetype, double ltscale, unsigned long thickn) {
+    item.m_color = color;
+    item.m_linetype = linetype;
+    if (item.m_linetype.isEmpty()) item.m_linetype.append(1.0);
+    item.m_ltscale = ltscale;
+    item.m_thickn = static_cast<int>(thickn);
+    item.m_mtx = mtx;
 }
 
 // The item an entry operation fills. With room in the list it is the slot
@@ -53,11 +59,7 @@ bool CZemGDX::imageVl(const CZemArrayTempl<int>& stack, unsigned long flags, con
                       double ltscale, unsigned long thickn) {
     NewItem item(m_displayList, GDX_VL, stack, flags);
     item->m_vl = vl;
-    item->m_color = color;
-    storeLinetype(item->m_linetype, linetype);
-    item->m_ltscale = ltscale;
-    item->m_thickn = static_cast<int>(thickn);
-    item->m_mtx = mtx;
+    storePen(*item, color, mtx, linetype, ltscale, thickn);
     if (!(flags & GDX_NOEXT)) foldVertexList(item->m_vl, item->m_mtx);
     item.commit();
     return true;
@@ -85,11 +87,7 @@ bool CZemGDX::imageReg(const CZemArrayTempl<int>& stack, unsigned long flags,
                        const CZemColor& fcolor, const CZemHatchProp& hatch) {
     NewItem item(m_displayList, GDX_REG, stack, flags);
     item->m_regl = regl;
-    item->m_color = color;
-    storeLinetype(item->m_linetype, linetype);
-    item->m_ltscale = ltscale;
-    item->m_thickn = static_cast<int>(thickn);
-    item->m_mtx = mtx;
+    storePen(*item, color, mtx, linetype, ltscale, thickn);
     // A fill colour with a negative index stands for the line colour.
     if (flags & (GDX_FILL | GDX_HATCH)) item->m_fcolor = fcolor.colorIndex() >= 0 ? fcolor : color;
     item->m_hatch.name = hatch.name;
