@@ -10,6 +10,23 @@ typedef CZemArrayTempl<CZemString> Strings;
 
 }  // namespace
 
+TEST(ArrayTempl, GrowsByDoublingFromEightNeverShrinksAndSorts) {
+    CZemArrayTempl<int> a;
+    a[5] = 1;
+    EXPECT_EQ(a.physicalLength(), 8);
+    a[40] = 3;
+    EXPECT_EQ(a.len(), 41);
+    EXPECT_EQ(a.physicalLength(), 64);
+    a.setLogicalLength(0);
+    EXPECT_EQ(a.physicalLength(), 64);
+    for (int v : {5, -3, 9, 0, 5, 2}) a.append(v);
+    a.sort();
+    const int sorted[] = {-3, 0, 2, 5, 5, 9};
+    for (int k = 0; k < 6; ++k) EXPECT_EQ(a[k], sorted[k]);
+    a.revert();
+    for (int k = 0; k < 6; ++k) EXPECT_EQ(a[k], sorted[5 - k]);
+}
+
 TEST(ArrayTempl, NegativeIndicesWrapAndEmptyArraysHandOutSharedElements) {
     CZemArrayTempl<int> a;
     for (int k = 0; k < 5; ++k) a.append(k * 10);
