@@ -1,5 +1,4 @@
 #include "ZemGDX.h"
-#include "ZemGdxImage.h"
 #include "ZemGdxImageReg.h"
 
 #include <gtest/gtest.h>
@@ -67,22 +66,4 @@ TEST(ZemGdxImageReg, NamesInAnyOrderStaySortedThroughInsertionReplacementAndRemo
         expectSorted(table, std::vector<std::wstring>(names.begin() + static_cast<long>(k) + 1, names.end()), int(k));
         EXPECT_EQ(table.find(names[k].c_str()), nullptr);
     }
-}
-
-TEST(ZemGdxImage, CallsTheRegisteredFunctionWithItsArguments)
-{
-    CZemGDX gdx(CZemColor(), CZemMatrix3d(), 1.0, 0, CZemPoint3d(), CZemPoint3d());
-    EXPECT_FALSE(zem_gdx_image(L"SLIDE_TEST_POINT", &gdx, nullptr, nullptr));
-    EXPECT_FALSE(zem_gdx_image(nullptr, &gdx, nullptr, nullptr));
-    setGdxImageFcn(L"SLIDE_TEST_POINT", declines);
-    setGdxImageFcn(L"SLIDE_TEST_POINT", fillsOnePoint);
-    setGdxImageFcn(L"SLIDE_TEST_NO", declines);
-    EXPECT_TRUE(zem_gdx_image(L"SLIDE_TEST_POINT", &gdx, nullptr, nullptr));
-    ASSERT_EQ(gdx.lenGet(), 1);
-    EXPECT_FALSE(zem_gdx_image(L"SLIDE_TEST_NO", &gdx, nullptr, nullptr)) << "the function's own result";
-    EXPECT_FALSE(zem_gdx_image(L"slide_test_point", &gdx, nullptr, nullptr)) << "the case tells names apart";
-    setGdxImageFcn(L"SLIDE_TEST_POINT", nullptr);
-    setGdxImageFcn(L"SLIDE_TEST_NO", nullptr);
-    EXPECT_FALSE(zem_gdx_image(L"SLIDE_TEST_POINT", &gdx, nullptr, nullptr));
-    EXPECT_EQ(gdx.lenGet(), 1);
 }
