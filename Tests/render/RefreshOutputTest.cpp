@@ -54,9 +54,7 @@ TEST(Refresh, EmptyListsAndZeroSizesGiveValidMetafiles)
 {
     CZemGDX list = makeList();
     const Emf empty = refreshed(list);
-    ASSERT_GE(empty.records.size(), 3u) << "header, clip region, end";
-    EXPECT_EQ(empty.records[1].type, static_cast<DWORD>(EMR_EXTSELECTCLIPRGN));
-    EXPECT_EQ(empty.records.size(), 3u);
+    ASSERT_EQ(empty.records.size(), 3u) << "header, clip region, end";
     const CZemPoint3d corner = CZemPoint3d(0, 0, 0) * list.viewMtxGet();
     EXPECT_DOUBLE_EQ(corner.x, 5.0);
     EXPECT_DOUBLE_EQ(corner.y, 105.0);
@@ -88,7 +86,6 @@ TEST(Refresh, ItemsAreDrawnInSortedOrderAndThroughTheZoom)
     const std::vector<Segment> lines = emf.segments();
     ASSERT_EQ(lines.size(), 5u);
     EXPECT_EQ(lines[4], (Segment{{110, 110}, {130, 110}}));
-    EXPECT_EQ(list.typeGet(0), GDX_PICTURE);
 }
 
 TEST(Refresh, WithoutAFileNameTheMetafileGoesToTheClipboard)
