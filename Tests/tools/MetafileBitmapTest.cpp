@@ -33,12 +33,7 @@ void drawShapes(HDC dc)
 
 std::vector<COLORREF> pixels(HBITMAP bitmap)
 {
-    BITMAPINFO info = {};
-    info.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
-    info.bmiHeader.biWidth = kWidth;
-    info.bmiHeader.biHeight = -kHeight;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
+    BITMAPINFO info = {{sizeof(BITMAPINFOHEADER), kWidth, -kHeight, 1, 32, BI_RGB, 0, 0, 0, 0, 0}, {}};
     std::vector<COLORREF> out(kWidth * kHeight);
     HDC screen = GetDC(nullptr);
     GetDIBits(screen, bitmap, 0, kHeight, out.data(), &info, DIB_RGB_COLORS);

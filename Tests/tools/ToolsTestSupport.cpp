@@ -3,7 +3,6 @@
 #include <wincodec.h>
 #include <wrl/client.h>
 
-#include <algorithm>
 #include <fstream>
 #include <iterator>
 
@@ -81,16 +80,6 @@ Metafile readMetafile(const std::filesystem::path& file)
     EnumEnhMetaFile(nullptr, metafile, countRecord, &out.counts, nullptr);
     DeleteEnhMetaFile(metafile);
     return out;
-}
-
-int Picture::inked(int x0, int y0, int x1, int y1) const
-{
-    int n = 0;
-    for (int y = std::max(0, y0); y <= std::min(height - 1, y1); ++y) {
-        for (int x = std::max(0, x0); x <= std::min(width - 1, x1); ++x)
-            n += at(x, y) != 0xFFFFFF;
-    }
-    return n;
 }
 
 Picture decodePng(const std::filesystem::path& file)

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <map>
 #include <string>
@@ -38,8 +39,7 @@ struct Picture {
     int height = 0;
     std::vector<unsigned> pixels;
     unsigned at(int x, int y) const { return pixels[static_cast<size_t>(y) * width + x]; }
-    // Pixels other than white in a box (inclusive), clipped to the picture.
-    int inked(int x0, int y0, int x1, int y1) const;
+    int inked() const { return static_cast<int>(pixels.size() - std::count(pixels.begin(), pixels.end(), 0xFFFFFFu)); }
 };
 Picture decodePng(const std::filesystem::path& file);
 
