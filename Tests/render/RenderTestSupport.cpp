@@ -11,11 +11,6 @@
 
 namespace rendertest {
 
-bool Segment::operator==(const Segment& o) const
-{
-    return from.x == o.from.x && from.y == o.from.y && to.x == o.to.x && to.y == o.to.y;
-}
-
 std::ostream& operator<<(std::ostream& out, const Segment& s)
 {
     return out << "(" << s.from.x << "," << s.from.y << ")-(" << s.to.x << "," << s.to.y << ")";
@@ -70,10 +65,6 @@ CZemGDX makeList()
 {
     return CZemGDX(ole(kWhite), CZemMatrix3d::kIdentity, 0.0, 0, CZemPoint3d(0, 0, 0), CZemPoint3d(100, 100, 0));
 }
-
-CZemArrayTempl<int> stack(int element) { return CZemArrayTempl<int>().append(element); }
-
-CZemColor ole(COLORREF color) { return CZemColor().setOleColor(color); }
 
 CZemArrayTempl<double> doubles(std::initializer_list<double> values)
 {
@@ -141,9 +132,7 @@ std::wstring writeBmp(const wchar_t* name, int side, COLORREF color)
 }
 
 PatternApp::PatternApp() : m_before(zemAppSet(this)) {}
-
 PatternApp::~PatternApp() { zemAppSet(m_before); }
-
 void PatternApp::add(const wchar_t* name, std::initializer_list<double> line) { m_patterns[name] = doubles(line); }
 
 bool PatternApp::hatchPattern(const wchar_t* name, CZemArrayTempl<CZemArrayTempl<double>>& lines)

@@ -27,7 +27,10 @@ struct Record {
 // A MoveTo and the LineTo right after it.
 struct Segment {
     POINT from, to;
-    bool operator==(const Segment& o) const;
+    bool operator==(const Segment& o) const
+    {
+        return from.x == o.from.x && from.y == o.from.y && to.x == o.to.x && to.y == o.to.y;
+    }
 };
 std::ostream& operator<<(std::ostream& out, const Segment& s);
 
@@ -45,8 +48,8 @@ struct Emf {
 // (0, 0) - (100, 100): refreshed at 110 by 110, a list point (x, y) lies at
 // device (x + 5, 105 - y).
 CZemGDX makeList();
-CZemArrayTempl<int> stack(int element);
-CZemColor ole(COLORREF color);
+inline CZemArrayTempl<int> stack(int element) { return CZemArrayTempl<int>().append(element); }
+inline CZemColor ole(COLORREF color) { return CZemColor().setOleColor(color); }
 CZemArrayTempl<double> doubles(std::initializer_list<double> values);
 CZemVertexArray polyline(std::initializer_list<CZemPoint3d> points);
 // Counter-clockwise, lower left corner (x, y).
