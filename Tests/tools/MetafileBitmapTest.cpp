@@ -1,6 +1,5 @@
 #include "ToolsTestSupport.h"
 #include "ZemMetafileBitmap.h"
-#include "ZemPngFile.h"
 
 #include <gtest/gtest.h>
 
@@ -65,18 +64,6 @@ TEST(MetafileBitmap, PlaysEveryRecordAtThePixelItWasDrawnAt)
     EXPECT_EQ(a[90 * kWidth + 140], static_cast<COLORREF>(0xFF0000)) << "inside the red rectangle";
     EXPECT_TRUE(a[90 * kWidth + 100] == 0x0000FFu && a[90 * kWidth + 99] == 0xFFFFFFu) << "the frame's left side";
     EXPECT_TRUE(a[170 * kWidth + 200] == 0x0000FFu && a[170 * kWidth + 199] == 0xFFFFFFu) << "the last line";
-
-    // Through a file and the PNG encoder the picture keeps its size.
-    const std::filesystem::path folder = freshFolder(L"tools-metafile");
-    const std::wstring emf = (folder / L"shapes.emf").wstring(), png = (folder / L"shapes.png").wstring();
-    DeleteEnhMetaFile(CopyEnhMetaFileW(metafile, emf.c_str()));
-    ASSERT_TRUE(zemMetafileToPng(emf.c_str(), kWidth, kHeight, png.c_str()));
-    const Picture picture = decodePng(png);
-    ASSERT_EQ(picture.width, kWidth);
-    ASSERT_EQ(picture.height, kHeight);
-    EXPECT_EQ(picture.at(40, 120), 0x0000FFu);
-    EXPECT_EQ(picture.at(140, 90), 0xFF0000u);
-    EXPECT_EQ(picture.at(5, 5), 0xFFFFFFu);
     DeleteObject(played);
     DeleteEnhMetaFile(metafile);
 }
