@@ -64,12 +64,6 @@ ProgramRun run(const char* program, const std::vector<std::wstring>& arguments)
     return result;
 }
 
-int Metafile::count(DWORD type) const
-{
-    const auto found = counts.find(type);
-    return found == counts.end() ? 0 : found->second;
-}
-
 Metafile readMetafile(const std::filesystem::path& file)
 {
     Metafile out;
@@ -119,11 +113,10 @@ std::vector<unsigned char> readBytes(const std::filesystem::path& file)
     return std::vector<unsigned char>(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
 }
 
-bool writeBytes(const std::filesystem::path& file, const unsigned char* bytes, size_t count)
+void writeBytes(const std::filesystem::path& file, const unsigned char* bytes, size_t count)
 {
     std::ofstream out(file, std::ios::binary);
     out.write(reinterpret_cast<const char*>(bytes), static_cast<std::streamsize>(count));
-    return static_cast<bool>(out);
 }
 
 }  // namespace toolstest

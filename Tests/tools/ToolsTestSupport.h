@@ -28,22 +28,20 @@ struct Metafile {
     bool read = false;
     ENHMETAHEADER header = {};
     std::map<DWORD, int> counts;
-    int count(DWORD type) const;
+    int count(DWORD type) const { return counts.count(type) ? counts.at(type) : 0; }
 };
 Metafile readMetafile(const std::filesystem::path& file);
 
-// The pixels of a PNG file decoded by the platform's imaging component, row
-// by row as 0x00RRGGBB; empty if it can't be decoded.
+// A PNG file's pixels row by row as 0x00RRGGBB; empty if it can't be decoded.
 struct Picture {
     int width = 0;
     int height = 0;
     std::vector<unsigned> pixels;
-    unsigned at(int x, int y) const { return pixels[static_cast<size_t>(y) * width + x]; }
     int inked() const { return static_cast<int>(pixels.size() - std::count(pixels.begin(), pixels.end(), 0xFFFFFFu)); }
 };
 Picture decodePng(const std::filesystem::path& file);
 
 std::vector<unsigned char> readBytes(const std::filesystem::path& file);
-bool writeBytes(const std::filesystem::path& file, const unsigned char* bytes, size_t count);
+void writeBytes(const std::filesystem::path& file, const unsigned char* bytes, size_t count);
 
 }  // namespace toolstest

@@ -1,7 +1,6 @@
 #include "ToolsTestSupport.h"
 #include "ZemDemoDrawings.h"
 #include "ZemGDX.h"
-#include "ZemGdxImageSld.h"
 #include "ZemPngFile.h"
 #include "ZemViewFrame.h"
 
@@ -42,8 +41,9 @@ void pump()
 }  // namespace
 
 // The frame fills its client area with the control, fitted, and keeps it
-// filled when resized; a wheel notch zooms the drawing in.
-TEST(ViewFrame, ShowsTheDemoPlanAndFollowsItsSize)
+// filled when resized; a wheel notch zooms the drawing in; a click on a line
+// names its group in the title.
+TEST(ViewFrame, ShowsTheDemoPlanFollowsItsSizeAndNamesAPick)
 {
     const std::filesystem::path folder = freshFolder(L"tools-view");
     const ZemDemoDrawing& plan = zem_demo_drawings()[0];
@@ -57,8 +57,7 @@ TEST(ViewFrame, ShowsTheDemoPlanAndFollowsItsSize)
     GetClientRect(frame.m_hWnd, &client);
     GetClientRect(frame.image().m_hWnd, &image);
     EXPECT_TRUE(image.right == client.right && image.bottom == client.bottom) << "the control follows the frame";
-    const POINT centre = {image.right / 2, image.bottom / 2};
-    POINT screen = centre;
+    POINT screen = {image.right / 2, image.bottom / 2};
     ClientToScreen(frame.image().m_hWnd, &screen);
     const int before = snapshot(frame, folder / L"plan-view.png");
     EXPECT_GT(before, image.right * image.bottom / 50) << "the plan is drawn";
@@ -68,18 +67,7 @@ TEST(ViewFrame, ShowsTheDemoPlanAndFollowsItsSize)
     EXPECT_NE(zoomed, before) << "the wheel changed the view";
     frame.fit();
     EXPECT_EQ(snapshot(frame, folder / L"plan-fitted.png"), before) << "fitting brings the first view back";
-    frame.DestroyWindow();
-    pump();
-}
 
-// A click on a line of a slide names its item in the title.
-TEST(ViewFrame, APickNamesTheGroupInTheTitle)
-{
-    CZemGDX list;
-    const std::wstring library = (slides() / L"autolisp-cn" / L"LISP.SLB").wstring();
-    ASSERT_TRUE(zem_gdx_image_sld(&list, L"P_1", library.c_str(), 0, nullptr));
-    CZemViewFrame frame;
-    ASSERT_TRUE(frame.open(&list, L"slide", 800, 600));
     int item = -1;
     for (int i = 0; i < list.lenGet() && item < 0; ++i)
         item = list.typeGet(i) == GDX_VL ? i : -1;
@@ -92,7 +80,7 @@ TEST(ViewFrame, APickNamesTheGroupInTheTitle)
     pump();
     wchar_t title[128] = {};
     GetWindowTextW(frame.m_hWnd, title, 128);
-    EXPECT_NE(std::wstring(title).find(L"slide - picked group "), std::wstring::npos) << std::wstring(title);
+    EXPECT_NE(std::wstring(title).find(L"plan - picked group "), std::wstring::npos) << std::wstring(title);
     frame.DestroyWindow();
     pump();
 }
