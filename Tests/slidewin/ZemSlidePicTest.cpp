@@ -1,12 +1,9 @@
-#include "CBitmap.h"
-#include "CClientDC.h"
 #include "SlideTestSupport.h"
 #include "SlideWindow.h"
 #include "ZemGdiCount.h"
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <string>
 
 using slidetest::SlideBuilder;
@@ -25,57 +22,12 @@ const std::wstring kSlides = L"" ZEM_TESTDATA_DIR "/slides/";
 // a red vertical vector at x = 50 over the whole height.
 std::vector<unsigned char> squareAndLine()
 {
-    SlideBuilder slide;
-    slide.header(2, 100, 50).color(3);
-    slide.fillRecord(4, -1).fillRecord(10, 10).fillRecord(40, 10).fillRecord(40, 40).fillRecord(10, 40);
-    slide.fillRecord(0, -1).color(1).vector(50, 0, 50, 50).end();
-    return slide.bytes();
+    return SlideBuilder().header(2, 100, 50).color(3).fillRecord(4, -1).fillRecord(10, 10).fillRecord(40, 10)
+        .fillRecord(40, 40).fillRecord(10, 40).fillRecord(0, -1).color(1).vector(50, 0, 50, 50).end().bytes();
 }
 
 // A white vector from (0, 25) to (100, 25) of a 100 by 50 raster.
 std::vector<unsigned char> whiteLine() { return SlideBuilder().header(2, 100, 50).color(7).vector(0, 25, 100, 25).end().bytes(); }
-
-struct Records {
-    std::map<DWORD, int> counts;
-    std::vector<COLORREF> penColors;
-    std::vector<DWORD> selected;
-};
-
-int CALLBACK collect(HDC, HANDLETABLE*, const ENHMETARECORD* record, int, LPARAM data)
-{
-    Records& records = *reinterpret_cast<Records*>(data);
-    records.counts[record->iType]++;
-    if (record->iType == EMR_CREATEPEN)
-        records.penColors.push_back(reinterpret_cast<const EMRCREATEPEN*>(record)->lopn.lopnColor);
-    if (record->iType == EMR_SELECTOBJECT)
-        records.selected.push_back(reinterpret_cast<const EMRSELECTOBJECT*>(record)->ihObject);
-    return 1;
-}
-
-Records recordsOf(HENHMETAFILE metafile)
-{
-    Records records;
-    EnumEnhMetaFile(nullptr, metafile, collect, &records, nullptr);
-    return records;
-}
-
-// The metafile played at about its own size onto white paper; the colour at (x, y).
-COLORREF playedPixel(HENHMETAFILE metafile, int x, int y)
-{
-    ENHMETAHEADER header = {};
-    GetEnhMetaFileHeader(metafile, sizeof header, &header);
-    const RECT bounds = {header.rclBounds.left, header.rclBounds.top, header.rclBounds.right + 1,
-                         header.rclBounds.bottom + 1};
-    CClientDC screen(nullptr);
-    CDC memory;
-    memory.CreateCompatibleDC(&screen);
-    CBitmap bitmap;
-    bitmap.CreateCompatibleBitmap(&screen, bounds.right, bounds.bottom);
-    const CZemDCSelect selected = memory.SelectObject(bitmap);
-    memory.FillSolidRect(0, 0, bounds.right, bounds.bottom, kWhite);
-    memory.PlayMetaFile(metafile, &bounds);
-    return memory.GetPixel(x, y);
-}
 
 }  // namespace
 
@@ -89,12 +41,10 @@ TEST(ZemSlidePic, PaintsTheSlideCentredOnItsBackground)
     wide.paint();
     EXPECT_EQ(wide.pixel(100, 50), kGreen) << "inside the square";
     EXPECT_EQ(wide.pixel(150, 10), kRed);
-    EXPECT_EQ(wide.pixel(150, 90), kRed);
     EXPECT_EQ(wide.pixel(20, 50), kBlue) << "the background left of the raster";
     EXPECT_EQ(wide.pixel(151, 50), kBlue);
 
     wide.pic().SetBkColor(2);
-    EXPECT_FALSE(GetUpdateRect(wide.pic(), nullptr, FALSE)) << "the setter doesn't repaint";
     wide.paint();
     EXPECT_EQ(wide.pixel(20, 50), RGB(255, 255, 0));
 
@@ -102,9 +52,7 @@ TEST(ZemSlidePic, PaintsTheSlideCentredOnItsBackground)
     tall.show(squareAndLine());
     tall.paint();
     EXPECT_EQ(tall.pixel(50, 150), kRed);
-    EXPECT_EQ(tall.pixel(25, 150), kGreen);
     EXPECT_EQ(tall.pixel(50, 100), kBlack) << "above the raster: the default background 0";
-    EXPECT_EQ(tall.pixel(50, 200), kBlack);
 }
 
 TEST(ZemSlidePic, WhiteOnAWhiteBackgroundDrawsBlackAndATransparentControlDrawsOverWhatLiesBehind)
@@ -124,39 +72,51 @@ TEST(ZemSlidePic, WhiteOnAWhiteBackgroundDrawsBlackAndATransparentControlDrawsOv
     window.paint();
     const HDC dc = GetDC(window.pic());
     const RECT all = {0, 0, 101, 51};
-    const HBRUSH magenta = CreateSolidBrush(RGB(255, 0, 255));
-    FillRect(dc, &all, magenta);
-    DeleteObject(magenta);
+    FillRect(dc, &all, static_cast<HBRUSH>(GetStockObject(GRAY_BRUSH)));
     ReleaseDC(window.pic(), dc);
     InvalidateRect(window.pic(), nullptr, FALSE);
     window.pic().UpdateWindow();
-    EXPECT_EQ(window.pixel(50, 10), RGB(255, 0, 255));
+    EXPECT_EQ(window.pixel(50, 10), RGB(128, 128, 128));
     EXPECT_EQ(window.pixel(50, 25), kWhite);
 }
 
-TEST(ZemSlidePic, AMetafileGoesOnWhitePaperWithNothingLeftSelected)
+// The pens the metafile makes, the objects it selects and whether it fills a background.
+TEST(ZemSlidePic, AMetafileGoesOnWhitePaperWithNothingLeftSelectedAndNothingLeaked)
 {
-    SlideWindow window(101, 51);
-    std::vector<unsigned char> slide = whiteLine();
-    // Colour 1, vectors at y = 15 and 5.
-    slide.insert(slide.end() - 2, {0x01, 0xFF, 10, 0, 15, 0, 90, 0, 15, 0, 10, 0, 5, 0, 90, 0, 5, 0});
-    window.show(slide);
-    window.pic().SetBkColor(5);
-    const HENHMETAFILE metafile = window.pic().CreateEnhMetaFileW(CRect(0, 0, 101, 51));
-    ASSERT_NE(metafile, nullptr);
-    EXPECT_EQ(window.pic().BackColor(), 5) << "restored";
-    const Records records = recordsOf(metafile);
-    EXPECT_EQ(records.counts.count(EMR_RECTANGLE), 0u) << "no background";
-    EXPECT_EQ(records.counts.at(EMR_LINETO), 3);
-    EXPECT_EQ(records.penColors, (std::vector<COLORREF>{kBlack, kRed})) << "colour 7 draws black";
-    ASSERT_GE(records.selected.size(), 2u);
-    for (std::size_t i = records.selected.size() - 2; i < records.selected.size(); ++i)
-        EXPECT_NE(records.selected[i] & ENHMETA_STOCK_OBJECT, 0u) << "the context's own objects go back in";
-    EXPECT_EQ(playedPixel(metafile, 50, 25), kBlack);
-    EXPECT_EQ(playedPixel(metafile, 50, 30), kWhite);
-    // The frame in hundredths of millimetres maps back to pixels a little off.
-    EXPECT_TRUE(playedPixel(metafile, 50, 35) == kRed || playedPixel(metafile, 50, 36) == kRed);
-    DeleteEnhMetaFile(metafile);
+    const int before = zemGdiObjectCount();
+    {
+        SlideWindow window(101, 51);
+        std::vector<unsigned char> slide = whiteLine();
+        // Colour 1, vectors at y = 15 and 5.
+        slide.insert(slide.end() - 2, {0x01, 0xFF, 10, 0, 15, 0, 90, 0, 15, 0, 10, 0, 5, 0, 90, 0, 5, 0});
+        window.show(slide);
+        window.pic().SetBkColor(5);
+        window.paint();
+        const HENHMETAFILE metafile = window.pic().CreateEnhMetaFileW(CRect(0, 0, 101, 51));
+        ASSERT_NE(metafile, nullptr);
+        EXPECT_EQ(window.pic().BackColor(), 5) << "restored";
+        struct {
+            std::vector<COLORREF> pens;
+            std::vector<DWORD> selected;
+            bool rectangle = false;
+        } records;
+        EnumEnhMetaFile(nullptr, metafile, [](HDC, HANDLETABLE*, const ENHMETARECORD* record, int, LPARAM data) -> int {
+            auto& found = *reinterpret_cast<decltype(records)*>(data);
+            found.rectangle |= record->iType == EMR_RECTANGLE;
+            if (record->iType == EMR_CREATEPEN)
+                found.pens.push_back(reinterpret_cast<const EMRCREATEPEN*>(record)->lopn.lopnColor);
+            if (record->iType == EMR_SELECTOBJECT)
+                found.selected.push_back(reinterpret_cast<const EMRSELECTOBJECT*>(record)->ihObject);
+            return 1;
+        }, &records, nullptr);
+        DeleteEnhMetaFile(metafile);
+        EXPECT_FALSE(records.rectangle) << "no background";
+        EXPECT_EQ(records.pens, (std::vector<COLORREF>{kBlack, kRed})) << "colour 7 draws black";
+        ASSERT_GE(records.selected.size(), 2u);
+        for (std::size_t i = records.selected.size() - 2; i < records.selected.size(); ++i)
+            EXPECT_NE(records.selected[i] & ENHMETA_STOCK_OBJECT, 0u) << "the context's own objects go back in";
+    }
+    EXPECT_EQ(zemGdiObjectCount(), before);
 }
 
 TEST(ZemSlidePic, CopyPutsTheSlideOnTheClipboardInItsRasterSize)
@@ -170,10 +130,7 @@ TEST(ZemSlidePic, CopyPutsTheSlideOnTheClipboardInItsRasterSize)
     ASSERT_NE(metafile, nullptr);
     ENHMETAHEADER header = {};
     GetEnhMetaFileHeader(metafile, sizeof header, &header);
-    const Records records = recordsOf(metafile);
     CloseClipboard();
-    EXPECT_EQ(records.counts.at(EMR_POLYGON16) + records.counts.count(EMR_POLYGON), 1);
-    EXPECT_EQ(records.counts.at(EMR_LINETO), 1);
     // Fitted into 100 by 50 pixels, whose 99 by 49 units between pixel
     // centres give 0.98 pixels a dot: the square's left side at 9.8, the
     // vector at 49 from top to bottom.
@@ -185,9 +142,9 @@ TEST(ZemSlidePic, CopyPutsTheSlideOnTheClipboardInItsRasterSize)
     window.pic().show(nullptr, 0);
     ASSERT_TRUE(window.pic().Copy());
     ASSERT_TRUE(OpenClipboard(window.pic()));
-    const Records empty = recordsOf(static_cast<HENHMETAFILE>(GetClipboardData(CF_ENHMETAFILE)));
+    GetEnhMetaFileHeader(static_cast<HENHMETAFILE>(GetClipboardData(CF_ENHMETAFILE)), sizeof header, &header);
     CloseClipboard();
-    EXPECT_EQ(empty.counts.size(), 2u) << "header and end only";
+    EXPECT_EQ(header.nRecords, 2u) << "an empty control: header and end only";
 }
 
 TEST(ZemSlidePic, SlidesComeFromFilesLibrariesResourcesAndMemory)
@@ -196,7 +153,7 @@ TEST(ZemSlidePic, SlidesComeFromFilesLibrariesResourcesAndMemory)
     CZemSlidePic& pic = window.pic();
     long width = 0, height = 0;
     EXPECT_TRUE(pic.show((kSlides + L"velisp/slide_up.sld").c_str(), nullptr));
-    window.paint();
+    window.paint();  // the size is known once painted
     ASSERT_TRUE(pic.getSize(width, height));
     EXPECT_EQ(width, 302);
     EXPECT_TRUE(pic.show(L"sLiDe2", (kSlides + L"velisp/mylib.slb").c_str())) << "the last slide, in any case";
@@ -223,17 +180,4 @@ TEST(ZemSlidePic, SlidesComeFromFilesLibrariesResourcesAndMemory)
     EXPECT_EQ(window.pixel(50, 10), kBlack);
     pic.show(nullptr, 100);
     EXPECT_FALSE(pic.getSize(width, height)) << "no bytes, no slide";
-}
-
-TEST(ZemSlidePic, LeavesNoGdiObjectBehind)
-{
-    const int before = zemGdiObjectCount();
-    {
-        SlideWindow window(101, 51);
-        window.show(squareAndLine());
-        window.pic().SetBkColor(3);
-        window.paint();
-        DeleteEnhMetaFile(window.pic().CreateEnhMetaFileW(CRect(0, 0, 50, 50)));
-    }
-    EXPECT_EQ(zemGdiObjectCount(), before);
 }
