@@ -1,11 +1,8 @@
 #include "GdxTestSupport.h"
 
-using namespace gdxtest;
-
-TEST(GdxEntry, ColourTableAndPointDefaults) {
+TEST(GdxEntry, DefaultsOfTheColourTablePointsAndRegions) {
     CZemGDX g = newList();
     EXPECT_TRUE(g.ColorTabLenGet() == 0 && g.colorTabGet(GDX_CM_BASE) == CZemColor());
-    EXPECT_FALSE(g.ColorTabSet(GDX_CM_ITEM, indexColor(1)));
     EXPECT_FALSE(g.ColorTabSet(GDX_CM_CONTRAST, indexColor(1)));
     ASSERT_TRUE(g.ColorTabSet(GDX_CMODE(14), indexColor(9)));
     EXPECT_TRUE(g.ColorTabLenGet() == 14 && g.colorTabGet(GDX_CM_ITEM).colorIndex() == 9) << "mode 0: the last";
@@ -21,25 +18,17 @@ TEST(GdxEntry, ColourTableAndPointDefaults) {
     EXPECT_TRUE(g.pdModeGet(1) == 35UL && g.pdSizeGet(1) == 2.5 && g.flagGet(1) == 1036UL);
     EXPECT_TRUE(g.typeGet(-1) == GDX_PT && g.typeGet(7) == ZemDisplayObj{} && g.pdModeGet(7) == 66UL);
     EXPECT_EQ(g.lenGet(), 2) << "reading behind the end changes nothing";
-}
 
-// What entry fills in: a continuous line type, the fill colour, the default hatch.
-TEST(GdxEntry, LinesAndRegionsGetTheirDefaults) {
-    CZemGDX g = newList();
-    addLine(g, path({1}), CZemPoint3d(0, 0, 0), CZemPoint3d(1, 0, 0));
-    EXPECT_TRUE(g.linetypeGet(0).len() == 1 && g.linetypeGet(0)[0] == 1.0) << "no line type: continuous";
+    // A region's fill colour below 0 stands for its line colour; without a
+    // fill it has none.
+    CZemGDX r = newList();
     const CZemArrayTempl<CZemVertexArray> regl = region({square(0, 0, 4, 4), square(1, 1, 2, 2)});
-    g.imageReg(path({3}), GDX_FILL, regl, indexColor(6), CZemMatrix3d(), {}, 1, 1, indexColor(-1));
-    g.imageReg(path({4}), 0, regl, indexColor(6), CZemMatrix3d(), {}, 1, 1, indexColor(8));
-    EXPECT_EQ(g.fcolorGet(1).colorIndex(), 6) << "a fill colour below 0 stands for the line colour";
-    EXPECT_TRUE(g.fcolorGet(2) == CZemColor()) << "no fill, no fill colour";
-    CZemHatchProp hatch;
-    ASSERT_TRUE(g.hatchGet(2, hatch));
-    EXPECT_TRUE(hatch.angle == 0.7853981633974483 && hatch.scale == 10.0);
-    EXPECT_FALSE(g.hatchGet(3, hatch));
+    r.imageReg(path({3}), GDX_FILL, regl, indexColor(6), CZemMatrix3d(), {}, 1, 1, indexColor(-1));
+    r.imageReg(path({4}), 0, regl, indexColor(6), CZemMatrix3d(), {}, 1, 1, indexColor(8));
+    EXPECT_TRUE(r.fcolorGet(0).colorIndex() == 6 && r.fcolorGet(1) == CZemColor());
 }
 
-TEST(GdxEntry, ExtentsGrowByEachEntryButForgetAFirstSinglePoint) {
+TEST(GdxEntry, ExtentsGrowByEachEntryButForgetAFirstSinglePointAndPictures) {
     CZemGDX g = newList();
     addPoint(g, path({1}), CZemPoint3d(1, 1, 0));
     addPoint(g, path({1}), CZemPoint3d(2, 2, 0));
@@ -58,26 +47,25 @@ TEST(GdxEntry, ExtentsGrowByEachEntryButForgetAFirstSinglePoint) {
     CZemGDX h = newList(proj);
     addRegion(h, path({1}), region({square(0, 0, 1, 3), square(-100, -100, 100, 100)}), 0, mtx);
     expectExtents(h, CZemPoint3d(20, 0, 0), CZemPoint3d(22, 6, 0));
-}
 
-TEST(GdxEntry, PicturesGoBeneathEverythingAndLeaveTheExtents) {
-    CZemGDX g = newList();
-    addLine(g, path({1}), CZemPoint3d(0, 0, 0), CZemPoint3d(1, 1, 0));
-    g.imagePicture(path({3}), GDX_PIC_FULL, L"logo.bmp", 0x7FFFFFFF, CZemPoint3d(1, 1, 0), CZemPoint3d(1, 1, 0));
-    g.imagePicture(path({4}), 0, L"", 0x7FFFFFFF, CZemPoint3d(0, 0, 0), CZemPoint3d(30, 20, 0));
-    g.imagePicture(path({5}), 0, nullptr, 32512, CZemPoint3d(), CZemPoint3d());
-    ASSERT_EQ(g.lenGet(), 4);
-    EXPECT_TRUE(g.typeGet(0) == GDX_PICTURE && g.typeGet(3) == GDX_VL);
-    expectExtents(g, CZemPoint3d(0, 0, 0), CZemPoint3d(1, 1, 0));
+    // Pictures go beneath everything and leave the extents.
+    CZemGDX p = newList();
+    addLine(p, path({1}), CZemPoint3d(0, 0, 0), CZemPoint3d(1, 1, 0));
+    p.imagePicture(path({3}), GDX_PIC_FULL, L"logo.bmp", 0x7FFFFFFF, CZemPoint3d(1, 1, 0), CZemPoint3d(1, 1, 0));
+    p.imagePicture(path({4}), 0, L"", 0x7FFFFFFF, CZemPoint3d(0, 0, 0), CZemPoint3d(30, 20, 0));
+    p.imagePicture(path({5}), 0, nullptr, 32512, CZemPoint3d(), CZemPoint3d());
+    ASSERT_EQ(p.lenGet(), 4);
+    EXPECT_TRUE(p.typeGet(0) == GDX_PICTURE && p.typeGet(3) == GDX_VL);
+    expectExtents(p, CZemPoint3d(0, 0, 0), CZemPoint3d(1, 1, 0));
     CZemString file;
     int number = 0;
-    EXPECT_TRUE(g.pictureGet(0, file, number) && number == 32512);
-    EXPECT_FALSE(g.pictureGet(1, file, number)) << "no number and no file";
-    EXPECT_TRUE(g.pictureGet(2, file, number) && file == L"logo.bmp");
-    EXPECT_TRUE(g.getDisplayList()[2].m_vl.len() == 0 && g.getDisplayList()[1].m_vl[0].m_end == CZemPoint3d(30, 20, 0));
+    EXPECT_TRUE(p.pictureGet(0, file, number) && number == 32512);
+    EXPECT_FALSE(p.pictureGet(1, file, number)) << "no number and no file";
+    EXPECT_TRUE(p.pictureGet(2, file, number) && file == L"logo.bmp");
+    EXPECT_TRUE(p.getDisplayList()[2].m_vl.len() == 0 && p.getDisplayList()[1].m_vl[0].m_end == CZemPoint3d(30, 20, 0));
 }
 
-TEST(GdxEntry, AddDisplayListAndClear) {
+TEST(GdxEntry, AddDisplayListClearAndEntriesFromTheListItself) {
     CZemGDX g = newList();
     EXPECT_FALSE(g.addDisplayList(CZemArrayTempl<CZemDisplayItem>()));
     addLine(g, path({1}), CZemPoint3d(0, 0, 0), CZemPoint3d(2, 2, 0));
@@ -100,18 +88,16 @@ TEST(GdxEntry, AddDisplayListAndClear) {
     CZemVertexArray stale;
     g.geomGet(stale, 0);
     EXPECT_TRUE(stale.len() == 0 && g.linetypeGet(0).len() == 0);
-}
 
-// Arguments that are parts of the list's own items stay valid while the
-// list grows under the entry.
-TEST(GdxEntry, EntriesMayCopyFromTheListItself) {
-    CZemGDX g = newList();
-    addLine(g, path({1, 2, 3}), CZemPoint3d(0, 0, 0), CZemPoint3d(2, 2, 0));
+    // Arguments that are parts of the list's own items stay valid while the
+    // list grows under the entry.
+    CZemGDX s = newList();
+    addLine(s, path({1, 2, 3}), CZemPoint3d(0, 0, 0), CZemPoint3d(2, 2, 0));
     for (int k = 0; k < 40; ++k) {
-        const CZemDisplayItem& first = g.getDisplayList()[0];
-        g.imageVl(first.m_stack, 0, first.m_vl, first.m_color, first.m_mtx, first.m_linetype, 1.0, 1);
+        const CZemDisplayItem& first = s.getDisplayList()[0];
+        s.imageVl(first.m_stack, 0, first.m_vl, first.m_color, first.m_mtx, first.m_linetype, 1.0, 1);
     }
     CZemArrayTempl<int> stack;
-    g.itemStackGet(stack, 40);
-    EXPECT_TRUE(g.lenGet() == 41 && stack.len() == 3 && stack[2] == 3);
+    s.itemStackGet(stack, 40);
+    EXPECT_TRUE(s.lenGet() == 41 && stack.len() == 3 && stack[2] == 3);
 }

@@ -7,16 +7,10 @@
 #include <initializer_list>
 
 // Small builders for display list tests.
-namespace gdxtest {
-
 inline CZemArrayTempl<int> path(std::initializer_list<int> elements) {
     CZemArrayTempl<int> stack;
     for (int e : elements) stack.append(e);
     return stack;
-}
-
-inline CZemVertexArray segment(const CZemPoint3d& a, const CZemPoint3d& b) {
-    return CZemVertexArray(CZemVertex(a, b, 0.0));
 }
 
 inline CZemVertexArray square(double x0, double y0, double x1, double y1) {
@@ -41,7 +35,7 @@ inline CZemGDX newList(const CZemMatrix3d& proj = CZemMatrix3d()) {
 
 inline void addLine(CZemGDX& g, const CZemArrayTempl<int>& stack, const CZemPoint3d& a, const CZemPoint3d& b,
                     unsigned long flags = 0) {
-    g.imageVl(stack, flags, segment(a, b), indexColor(1), CZemMatrix3d(), CZemArrayTempl<double>(), 1.0, 1);
+    g.imageVl(stack, flags, CZemVertexArray(CZemVertex(a, b, 0.0)), indexColor(1), CZemMatrix3d(), CZemArrayTempl<double>(), 1.0, 1);
 }
 
 inline void addPoint(CZemGDX& g, const CZemArrayTempl<int>& stack, const CZemPoint3d& p, unsigned long flags = 0,
@@ -64,5 +58,3 @@ inline void expectExtents(const CZemGDX& g, const CZemPoint3d& lo, const CZemPoi
     expectPoint(min, lo.x, lo.y, lo.z);
     expectPoint(max, hi.x, hi.y, hi.z);
 }
-
-}  // namespace gdxtest
