@@ -8,14 +8,12 @@
 
 namespace {
 
-typedef CZemArrayTempl<CZemArrayTempl<CZemVertexArray>> Glyph;
+using Glyph = CZemArrayTempl<CZemArrayTempl<CZemVertexArray>>;
 
 // A glyph of one contour with n vertices, so that lookups can tell glyphs apart.
 Glyph glyphOf(int n) {
     Glyph g;
-    for (int k = 0; k < n; ++k) {
-        g[0][0].append(CZemVertex(CZemPoint3d(k, 0, 0), CZemPoint3d(k + 1, 0, 0), 0.0));
-    }
+    for (int k = 0; k < n; ++k) g[0][0].append(CZemVertex(CZemPoint3d(k, 0, 0), CZemPoint3d(k + 1, 0, 0), 0.0));
     return g;
 }
 
@@ -23,7 +21,7 @@ int tagOf(const Glyph& g) { return g.len() == 1 && g[0].len() == 1 ? g[0][0].len
 
 }  // namespace
 
-TEST(FontMap, FindsEveryCodeWhateverTheOrderOfEntry) {
+TEST(FontMap, FindsEveryCodeWhateverTheOrderOfEntryAndHandsOutCopies) {
     CZemFontMap map;
     Glyph none;
     EXPECT_TRUE(map.isEmpty() && !map.lookup(0, none) && !map.lookup(65, none)) << "an empty map finds nothing";
@@ -48,17 +46,14 @@ TEST(FontMap, FindsEveryCodeWhateverTheOrderOfEntry) {
     EXPECT_EQ(map.count(), static_cast<int>(codes.size())) << "setting a present code replaces its glyph";
     EXPECT_TRUE(map.lookup(214, g) && tagOf(g) == 98);
     EXPECT_TRUE(map.lookup(425, g) && tagOf(g) == 425 % 97 + 1) << "its neighbour keeps its own";
-}
 
-TEST(FontMap, StoresAndHandsOutCopies) {
-    CZemFontMap map;
+    // The map stores and hands out copies.
     Glyph original = glyphOf(3);
     map.setAt(7, original);
     original[0][0].append(CZemVertex());
-    Glyph out;
-    ASSERT_TRUE(map.lookup(7, out));
-    EXPECT_EQ(tagOf(out), 3) << "the map keeps its own copy";
-    out[0].removeAt(0);
+    ASSERT_TRUE(map.lookup(7, g));
+    EXPECT_EQ(tagOf(g), 3) << "the map keeps its own copy";
+    g[0].removeAt(0);
     Glyph again;
     ASSERT_TRUE(map.lookup(7, again));
     EXPECT_EQ(tagOf(again), 3) << "a looked-up glyph is a copy";

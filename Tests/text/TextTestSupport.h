@@ -7,11 +7,10 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <vector>
 
 // Measures of laid-out text taken straight from the vertices, so that they do
 // not lean on the geometry the layout itself uses.
-namespace texttest {
-
 typedef CZemArrayTempl<CZemArrayTempl<CZemVertexArray>> Regions;
 
 struct Box {
@@ -32,6 +31,14 @@ inline Box outerBox(const Regions& regions) {
         }
     }
     return b;
+}
+
+// The codes the font has a glyph for.
+inline std::vector<int> fontCodes() {
+    std::vector<int> codes;
+    for (int c = 33; c <= 126; ++c) codes.push_back(c);
+    for (int c : {177, 178, 179, 186, 188, 189, 190, 196, 214, 220, 223, 228, 246, 252}) codes.push_back(c);
+    return codes;
 }
 
 inline Box glyphBox(wchar_t c) { return outerBox(get_ascii_from_map(c)); }
@@ -77,5 +84,3 @@ inline Regions layout(const wchar_t* text, const wchar_t* word, const CZemPoint3
     g.geomGet(out, 0);
     return out;
 }
-
-}  // namespace texttest
