@@ -47,6 +47,14 @@ function(zem_portable_library target folder)
   set_property(GLOBAL APPEND PROPERTY ZEM_PORTABLE_LIBRARIES ${target})
 endfunction()
 
+# Copies Zem_Mfc.dll, and the further files given, beside a Windows program
+# after each build of it, so that the program finds them under Wine.
+#   zem_place_library_beside(<target> [files...])
+function(zem_place_library_beside target)
+  add_custom_command(TARGET ${target} POST_BUILD
+    COMMAND ${CMAKE_COMMAND} -E copy_if_different $<TARGET_FILE:Zem_Mfc> ${ARGN} $<TARGET_FILE_DIR:${target}>)
+endfunction()
+
 # One GoogleTest executable per subsystem, from every .cpp of Tests/<name>.
 #   zem_test_suite(<name> LIBS <targets>...)
 function(zem_test_suite name)

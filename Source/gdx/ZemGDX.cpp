@@ -118,17 +118,28 @@ bool CZemGDX::ColorTabSet(GDX_CMODE m, const CZemColor& c) {
     return true;
 }
 
+namespace {
+
+// How far ahead a full pass asks for item heads and for geometry: the heads
+// come first, so that the address of the geometry is at hand when it is
+// asked for. A pass reads the first lines of an item (kind, flags, geometry,
+// matrix), and a four-vertex line fills five lines.
+constexpr int kHeadsAhead = 24;
+constexpr int kHeadLines = 8;
+constexpr int kGeometryAhead = 12;
+constexpr int kGeometryLines = 5;
+
+}  // namespace
+
 // The geometry of an item lives in its own heap block, which the processor
-// cannot foresee from a walk along the items. A full pass at item i asks for
-// the first vertices of the line or outer contour of an item some way ahead,
-// so that they arrive while the items in between are measured.
+// cannot foresee from a walk along the items.
 void CZemGDX::prefetchAhead(int i) const {
-    if (i + 24 < lenGet()) prefetchItem(i + 24, 8);
-    if (i + 12 >= lenGet()) return;
-    const CZemDisplayItem& item = itemAt(i + 12);
+    if (i + kHeadsAhead < lenGet()) prefetchItem(i + kHeadsAhead, kHeadLines);
+    if (i + kGeometryAhead >= lenGet()) return;
+    const CZemDisplayItem& item = itemAt(i + kGeometryAhead);
     const CZemVertexArray& vl = item.m_type == GDX_REG ? item.m_regl[0] : item.m_vl;
     const char* vertices = reinterpret_cast<const char*>(vl.items().data());
-    for (int line = 0; line < 5; ++line) __builtin_prefetch(vertices + 64 * line);
+    for (int line = 0; line < kGeometryLines; ++line) __builtin_prefetch(vertices + 64 * line);
 }
 
 void CZemGDX::prefetchItem(int i, int lines) const {

@@ -200,6 +200,7 @@ protected:
 
 private:
     const CZemDisplayItem& itemAt(int i) const { return m_displayList[i]; }
+    // Asks for what a full pass at item i will read some items later.
     void prefetchAhead(int i) const;
     // Asks for the first lines of item i, all of it by default.
     void prefetchItem(int i, int lines = (sizeof(CZemDisplayItem) + 63) / 64) const;

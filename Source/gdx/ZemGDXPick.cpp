@@ -102,7 +102,7 @@ CZemArrayTempl<int> CZemGDX::drawingOrder() const {
     std::vector<unsigned char> layers(static_cast<std::size_t>(n));
     int start[6] = {0, 0, 0, 0, 0, 0};
     for (int i = 0; i < n; ++i) {
-        if (i + 16 < n) prefetchItem(i + 16, 1);
+        if (i + 16 < n) prefetchItem(i + 16, 1);  // kind and flags
         layers[i] = static_cast<unsigned char>(drawingLayer(itemAt(i)));
         ++start[layers[i] + 1];
     }
@@ -117,8 +117,9 @@ CZemArrayTempl<int> CZemGDX::drawingOrder() const {
 // bitwise, as their array moves them, so reordering copies no geometry. Each
 // cycle of the permutation is walked once, with one item's bytes parked in a
 // buffer. A cycle jumps about the list where the processor cannot follow, so
-// the walk asks for the item a few steps further along its cycle ahead of
-// time.
+// the walk asks ahead of time for the item a few steps further along its
+// cycle and, for the short cycles of a reversal, for both items of the cycle
+// that starts a few places on.
 void CZemGDX::reorder(const CZemArrayTempl<int>& order) {
     const int n = order.len();
     std::vector<int> from(order.data(), order.data() + n);
