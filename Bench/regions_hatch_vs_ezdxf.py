@@ -6,7 +6,7 @@ output), then hatches the same region with the same pattern lines and scales
 through ezdxf's hatching module, and prints segments, total length and seconds
 for each side with the ratio of the times. Times are CPU seconds of the
 process, so that other work on the machine does not tilt the ratio: the
-median of five repetitions on the C++ side, of three runs on the ezdxf side.
+median of nine repetitions on the C++ side, of five runs on the ezdxf side.
 
     Bench/regions_hatch_vs_ezdxf.py build/bench/Bench/regions_hatch [pattern file]
 
@@ -70,11 +70,11 @@ def ezdxf_hatch(lines, scale):
 
 
 def ours(program, patterns_file):
-    """The median of five repetitions of each Peer case of the C++ program."""
+    """The median of nine repetitions of each Peer case of the C++ program."""
     env = dict(os.environ, ZEM_PATTERN_FILE=patterns_file)
     out = subprocess.run(
         [program, "--benchmark_filter=^Peer/", "--benchmark_format=json", "--benchmark_min_time=0.2",
-         "--benchmark_repetitions=5", "--benchmark_report_aggregates_only=true"],
+         "--benchmark_repetitions=9", "--benchmark_report_aggregates_only=true"],
         check=True, capture_output=True, text=True, env=env).stdout
     for bench in json.loads(out)["benchmarks"]:
         if bench.get("aggregate_name") != "median":
@@ -94,8 +94,8 @@ def main():
     print(head)
     print("-" * len(head))
     for name, target, scale, segs, length, seconds in ours(sys.argv[1], patterns_file):
-        runs = sorted((ezdxf_hatch(patterns[name], scale) for _ in range(3)), key=lambda run: run[2])
-        e_segs, e_length, e_seconds = runs[1]
+        runs = sorted((ezdxf_hatch(patterns[name], scale) for _ in range(5)), key=lambda run: run[2])
+        e_segs, e_length, e_seconds = runs[2]
         # Compare time per segment, so that a side with more output is not favoured.
         ratio = (e_seconds / max(e_segs, 1)) / (seconds / max(segs, 1))
         print(f"{name + '/' + str(target):<16}{scale:>10.3f} | {segs:>9}{length:>14.0f}{seconds:>10.5f} | "

@@ -11,15 +11,20 @@ public:
     virtual int setLogicalLength(int n) = 0;
 };
 
-// The shared body of the non-template arrays: a CZemArrayTempl<T> with its
+// The shared body of the non-template arrays: a CZemArrayTempl with its
 // indexing rules (negative indices from the end, a writing index that
-// extends, a reading index that yields a shared default element).
+// extends, a reading index that yields a shared default element), growing
+// from one element.
 template <class T>
 class CZemArrayOf : public CZemArray {
 public:
+    using Items = CZemArrayTempl<T, 1>;
+
     int len() const final { return m_items.len(); }
     int setLogicalLength(int n) final { return m_items.setLogicalLength(n); }
     bool isEmpty() const { return m_items.len() == 0; }
+    // Makes room for n elements; the length stays.
+    void reserve(int n) { m_items.reserve(n); }
 
     T& operator[](int i) { return m_items[i]; }
     const T& operator[](int i) const { return m_items[i]; }
@@ -27,11 +32,11 @@ public:
     void insertAt(int i, const T& x) { m_items.insertAt(i, x); }
     void removeAt(int i) { m_items.removeAt(i); }
 
-    const CZemArrayTempl<T>& items() const { return m_items; }
+    const Items& items() const { return m_items; }
 
 protected:
     void appendItem(const T& x) { m_items.append(x); }
     void revertItems() { m_items.revert(); }
 
-    CZemArrayTempl<T> m_items;
+    Items m_items;
 };

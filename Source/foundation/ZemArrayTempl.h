@@ -11,13 +11,18 @@
 // extends the array and a reading index that yields one shared default
 // element per instantiation.
 //
+// kFirstRoom is the room made for an empty array before doubling. The
+// system's arrays keep 8; the vertex and point lists, of which a drawing
+// holds very many short ones, start from 1, so that their storage stays
+// within twice what they hold.
+//
 // Elements are moved by swapping their bytes, never by copy or move
 // constructors. An element type qualifies when an object stays valid at
 // another address: it holds no pointer into itself and registers its address
 // nowhere. The system's element types qualify: numbers, and value classes
 // whose members are numbers, heap pointers owned by the object (strings,
 // nested arrays) and table pointers, none of which refer back into the object.
-template <class T>
+template <class T, std::uint32_t kFirstRoom = 8>
 class CZemArrayTempl : public CZemObj {
 public:
     CZemArrayTempl() = default;
@@ -74,28 +79,28 @@ private:
 
 // The shared elements are never destroyed, so that they outlive every static
 // array that may still hand them out while the process ends.
-template <class T>
-T& CZemArrayTempl<T>::scratchElement() {
+template <class T, std::uint32_t kFirstRoom>
+T& CZemArrayTempl<T, kFirstRoom>::scratchElement() {
     static T* scratch = new T();
     return *scratch;
 }
 
-template <class T>
-const T& CZemArrayTempl<T>::defaultElement() {
+template <class T, std::uint32_t kFirstRoom>
+const T& CZemArrayTempl<T, kFirstRoom>::defaultElement() {
     static const T* deflt = new T();
     return *deflt;
 }
 
-template <class T>
-void CZemArrayTempl<T>::swapBytes(T& a, T& b) {
+template <class T, std::uint32_t kFirstRoom>
+void CZemArrayTempl<T, kFirstRoom>::swapBytes(T& a, T& b) {
     alignas(T) unsigned char buffer[sizeof(T)];
     std::memcpy(buffer, static_cast<void*>(&a), sizeof(T));
     std::memcpy(static_cast<void*>(&a), static_cast<const void*>(&b), sizeof(T));
     std::memcpy(static_cast<void*>(&b), buffer, sizeof(T));
 }
 
-template <class T>
-CZemArrayTempl<T>& CZemArrayTempl<T>::operator=(const CZemArrayTempl& other) {
+template <class T, std::uint32_t kFirstRoom>
+CZemArrayTempl<T, kFirstRoom>& CZemArrayTempl<T, kFirstRoom>::operator=(const CZemArrayTempl& other) {
     if (this == &other) return *this;
     reserve(other.len());
     m_logLen = other.m_logLen;
@@ -103,10 +108,10 @@ CZemArrayTempl<T>& CZemArrayTempl<T>::operator=(const CZemArrayTempl& other) {
     return *this;
 }
 
-template <class T>
-void CZemArrayTempl<T>::reserve(int n) {
+template <class T, std::uint32_t kFirstRoom>
+void CZemArrayTempl<T, kFirstRoom>::reserve(int n) {
     if (n <= 0 || static_cast<std::uint32_t>(n) <= m_physLen) return;
-    std::uint32_t capacity = m_physLen == 0 ? 8 : m_physLen;
+    std::uint32_t capacity = m_physLen == 0 ? kFirstRoom : m_physLen;
     while (capacity < static_cast<std::uint32_t>(n)) capacity *= 2;
     T* storage = new T[capacity];
     // The old slots receive the fresh default objects and die with them.
@@ -116,24 +121,24 @@ void CZemArrayTempl<T>::reserve(int n) {
     m_physLen = capacity;
 }
 
-template <class T>
-int CZemArrayTempl<T>::setLogicalLength(int n) {
+template <class T, std::uint32_t kFirstRoom>
+int CZemArrayTempl<T, kFirstRoom>::setLogicalLength(int n) {
     if (n < 0) n = 0;
     reserve(n);
     m_logLen = static_cast<std::uint32_t>(n);
     return n;
 }
 
-template <class T>
-int CZemArrayTempl<T>::resolveNegative(int i) const {
+template <class T, std::uint32_t kFirstRoom>
+int CZemArrayTempl<T, kFirstRoom>::resolveNegative(int i) const {
     const long long n = m_logLen;
     if (n <= 1) return 0;
     const long long k = (n + i) % n;
     return static_cast<int>(k < 0 ? k + n : k);
 }
 
-template <class T>
-T& CZemArrayTempl<T>::operator[](int i) {
+template <class T, std::uint32_t kFirstRoom>
+T& CZemArrayTempl<T, kFirstRoom>::operator[](int i) {
     if (i < 0) {
         if (m_logLen == 0) return scratchElement();
         i = resolveNegative(i);
@@ -142,20 +147,20 @@ T& CZemArrayTempl<T>::operator[](int i) {
     return m_data[i];
 }
 
-template <class T>
-const T& CZemArrayTempl<T>::operator[](int i) const {
+template <class T, std::uint32_t kFirstRoom>
+const T& CZemArrayTempl<T, kFirstRoom>::operator[](int i) const {
     if (i < 0) i = resolveNegative(i);
     if (static_cast<std::uint32_t>(i) >= m_logLen) return defaultElement();
     return m_data[i];
 }
 
-template <class T>
-CZemArrayTempl<T>& CZemArrayTempl<T>::append(const T& x) {
+template <class T, std::uint32_t kFirstRoom>
+CZemArrayTempl<T, kFirstRoom>& CZemArrayTempl<T, kFirstRoom>::append(const T& x) {
     return insertAt(len(), x);
 }
 
-template <class T>
-CZemArrayTempl<T>& CZemArrayTempl<T>::insertAt(int i, const T& x) {
+template <class T, std::uint32_t kFirstRoom>
+CZemArrayTempl<T, kFirstRoom>& CZemArrayTempl<T, kFirstRoom>::insertAt(int i, const T& x) {
     if (i < 0) i = m_logLen == 0 ? 0 : resolveNegative(i);
     const int newLen = (i > len() ? i : len()) + 1;
     // x may be an element of this array: moved by the shifting, or freed
@@ -165,16 +170,16 @@ CZemArrayTempl<T>& CZemArrayTempl<T>::insertAt(int i, const T& x) {
     return placeAt(i, newLen, T(x));
 }
 
-template <class T>
-CZemArrayTempl<T>& CZemArrayTempl<T>::placeAt(int i, int newLen, const T& x) {
+template <class T, std::uint32_t kFirstRoom>
+CZemArrayTempl<T, kFirstRoom>& CZemArrayTempl<T, kFirstRoom>::placeAt(int i, int newLen, const T& x) {
     setLogicalLength(newLen);
     for (int k = newLen - 1; k > i; --k) swapBytes(m_data[k], m_data[k - 1]);
     m_data[i] = x;
     return *this;
 }
 
-template <class T>
-CZemArrayTempl<T>& CZemArrayTempl<T>::removeAt(int i) {
+template <class T, std::uint32_t kFirstRoom>
+CZemArrayTempl<T, kFirstRoom>& CZemArrayTempl<T, kFirstRoom>::removeAt(int i) {
     if (static_cast<std::uint32_t>(i) >= m_logLen) return *this;
     for (std::uint32_t k = static_cast<std::uint32_t>(i); k + 1 < m_logLen; ++k) {
         swapBytes(m_data[k], m_data[k + 1]);
@@ -183,8 +188,8 @@ CZemArrayTempl<T>& CZemArrayTempl<T>::removeAt(int i) {
     return *this;
 }
 
-template <class T>
-CZemArrayTempl<T>& CZemArrayTempl<T>::sort() {
+template <class T, std::uint32_t kFirstRoom>
+CZemArrayTempl<T, kFirstRoom>& CZemArrayTempl<T, kFirstRoom>::sort() {
     if (m_logLen < 2) return *this;
     for (std::uint32_t end = m_logLen; end > 1; --end) {
         bool swapped = false;
@@ -199,8 +204,8 @@ CZemArrayTempl<T>& CZemArrayTempl<T>::sort() {
     return *this;
 }
 
-template <class T>
-CZemArrayTempl<T>& CZemArrayTempl<T>::revert() {
+template <class T, std::uint32_t kFirstRoom>
+CZemArrayTempl<T, kFirstRoom>& CZemArrayTempl<T, kFirstRoom>::revert() {
     if (m_logLen < 2) return *this;
     for (std::uint32_t lo = 0, hi = m_logLen - 1; lo < hi; ++lo, --hi) {
         swapBytes(m_data[lo], m_data[hi]);

@@ -52,17 +52,21 @@ private:
         double hi;  // direction last crossed
     };
 
-    void reachFor(double ux, double uy) const;
+    void projectFor(double ux, double uy) const;
+    static void sortByPlace(std::vector<Crossing>& crossings);
 
     void addElement(const CZemVertexArray& element, int index);
 
     std::vector<double> m_x;
     std::vector<double> m_y;
     mutable std::vector<Ring> m_rings;
-    mutable double m_reachUx = 0.0;
-    mutable double m_reachUy = 0.0;
     double m_size = 0.0;
-    mutable std::vector<double> m_side;
+    // Each corner's side of, and reach along, the lines of the direction
+    // last crossed, taken from the origin.
+    mutable std::vector<double> m_across;
+    mutable std::vector<double> m_along;
+    mutable double m_projectedUx = 0.0;
+    mutable double m_projectedUy = 0.0;
     mutable std::vector<int> m_winding;
     bool m_usable = true;
     double m_guard = 0.0;

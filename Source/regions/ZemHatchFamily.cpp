@@ -35,10 +35,12 @@ bool CZemHatchFamily::prepare(const CZemArrayTempl<CZemVertexArray>& regs, doubl
     const CZemMatrix3d toLine = m_frame.inverse();
     copyIntoFrame(regs, toLine);
     zem_reg_ensure_contour(m_regions);
-    const CZemPoint3dArray box = ZEM::g_vl_extmax(m_regions[0], 0.0);
-    m_low = box[0];
+    // The contour's plain box; both corners stay at the origin when it has
+    // no finite vertex.
+    CZemPoint3d boxHi;
+    m_regions[0].extents(m_low, boxHi);
     double half = 0.0;
-    if (!m_line.sweepBound(box[0].distanceTo(box[1]), m_bound) || !m_line.halfLength(diagonal, half)) return false;
+    if (!m_line.sweepBound(m_low.distanceTo(boxHi), m_bound) || !m_line.halfLength(diagonal, half)) return false;
     // A dash list of gaps alone lays nothing, so no line can show.
     if (m_line.isDashed() && !m_line.laysDashes()) return false;
     const CZemPoint3d base = m_line.base() * toLine;
@@ -86,9 +88,11 @@ void CZemHatchFamily::uprightBox() {
     m_uprightHi.set(-inf, -inf, 0.0);
     for (int k = 0; k < m_regions.len(); ++k) {
         if (m_regions[k].isEmpty()) continue;
-        const CZemVertexArray upright =
-            m_rotation != 0.0 ? m_regions[k].getTransformedCopy(m_turnBack) : m_regions[k];
-        growBox(upright, m_uprightLo, m_uprightHi);
+        if (m_rotation == 0.0) {
+            growBox(m_regions[k], m_uprightLo, m_uprightHi);
+        } else {
+            growBox(m_regions[k].getTransformedCopy(m_turnBack), m_uprightLo, m_uprightHi);
+        }
     }
     const double size = std::fabs(m_uprightLo.x) + std::fabs(m_uprightHi.x) + std::fabs(m_uprightLo.y) +
                         std::fabs(m_uprightHi.y);
@@ -202,6 +206,7 @@ void CZemHatchFamily::sweep(const CZemMatrix3d& mtx, CZemArrayTempl<CZemVertexAr
     CZemVertexArray carried;
     carried.transformBy(m_frame);
     if (carry) carried.transformBy(*carry);
+    out.reserve(out.len() + expectedLines());
     bool seen = false;
     for (long long pass = 0; pass < 3 * m_bound; ++pass) {
         step(1.0);
@@ -217,6 +222,14 @@ void CZemHatchFamily::sweep(const CZemMatrix3d& mtx, CZemArrayTempl<CZemVertexAr
         }
         pieces.setNormal(carried.normal());
     }
+}
+
+// About how many lines of the family cross the regions: their upright
+// height over the spacing of the lines, bounded by the passes of a sweep.
+int CZemHatchFamily::expectedLines() const {
+    const double lines = (m_uprightHi.y - m_uprightLo.y) / std::fabs(m_line.dy()) + 2.0;
+    if (!(lines > 0.0)) return 0;
+    return static_cast<int>(std::min({lines, 3.0 * static_cast<double>(m_bound), 65536.0}));
 }
 
 // The prototype is turned by the pattern's rotation for the pass and back

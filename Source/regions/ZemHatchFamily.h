@@ -45,6 +45,7 @@ private:
     bool descendBelow();
     void descendClear();
     void step(double sign);
+    int expectedLines() const;
     using Outcome = CZemStraightPass::Outcome;
     Outcome passOnce(CZemStraightPass* fast, const CZemMatrix3d* carry, CZemVertexArray& pieces);
     Outcome exactPass(double start, const CZemVertexArray& whole, CZemVertexArray& pieces);

@@ -22,14 +22,15 @@ CZemPrototypeDashes::CZemPrototypeDashes(const CZemArrayTempl<double>& dashes, d
         if (dashes[k] >= 0.0) ++m_pieces;
     }
     // The first dash lies in the first period and the last one in the last
-    // two; laying those stretches of a model prototype gives their offsets.
-    const CZemVertex model(CZemPoint3d(0.0, 0.0, 0.0), CZemPoint3d(length, 0.0, 0.0), 0.0);
-    CZemVertexArray head, tail;
-    layPoints(model, length, 0.0, std::min(m_period, length), head);
+    // two; laying those stretches of a model prototype along X from the
+    // origin gives their offsets, interpolated as measuring places points.
+    bool first = true;
+    lay(length, 0.0, std::min(m_period, length), [&](double a, double) {
+        if (first) m_firstStart = length * (a / length);
+        first = false;
+    });
     const double lastPeriods = std::max(0.0, std::floor(length / m_period) - 1.0);
-    layPoints(model, length, lastPeriods * m_period, length, tail);
-    if (!head.isEmpty()) m_firstStart = head[0].m_start.x;
-    if (!tail.isEmpty()) m_lastEnd = tail[-1].m_end.x;
+    lay(length, lastPeriods * m_period, length, [&](double, double b) { m_lastEnd = length * (b / length); });
 }
 
 CZemVertex CZemPrototypeDashes::chordOf(const CZemVertexArray& q) const {
@@ -42,8 +43,17 @@ void CZemPrototypeDashes::measure(const CZemVertexArray& q, double lo, double hi
     const double from = std::max(0.0, std::floor(lo / m_period) * m_period);
     const double to = std::min(total, std::ceil(hi / m_period) * m_period);
     const int before = out.len();
-    if (from < to) layPoints(q[0], total, from, to, out);
+    if (!(from < to)) return;
+    out.reserve(before + roomOver(to - from));
+    layPoints(q[0], total, from, to, out);
     m_measured += out.len() - before;
+}
+
+int CZemPrototypeDashes::roomOver(double length) const {
+    // Beyond this the arrays simply grow as dashes come.
+    const double kMostRoom = 65536.0;
+    const double room = length / m_period * static_cast<double>(m_pieces) + 2.0;
+    return room > 0.0 ? static_cast<int>(std::min(room, kMostRoom)) : 0;
 }
 
 CZemVertexArray CZemPrototypeDashes::measureWhole(const CZemVertexArray& q) {

@@ -35,8 +35,9 @@ public:
     // length total that lies between the offsets lo and hi, in order.
     template <class Visit>
     void forEachDash(double total, double lo, double hi, Visit&& visit);
-    // About how many dashes and dots a stretch of this length holds.
-    double countOver(double length) const { return length / m_period * static_cast<double>(m_pieces); }
+    // Room for the dashes and dots a stretch of this length holds, with one
+    // more at each end; at most 65536, 0 for a length that is no number.
+    int roomOver(double length) const;
     // How many dashes were laid so far.
     long long measuredDashes() const { return m_measured; }
 

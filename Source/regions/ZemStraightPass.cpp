@@ -28,11 +28,12 @@ CZemStraightPass::Outcome CZemStraightPass::run(const CZemVertexArray& q, CZemVe
         m_worldStart *= *m_carry;
         m_worldEnd *= *m_carry;
     }
+    pieces.reserve(pieces.len() + roomFor(m_places));
     for (size_t k = m_places.size(); k >= 2; k -= 2) {
         const double hi = m_places[k - 1], lo = m_places[k - 2];
         const int before = pieces.len();
         if (!m_dashes) {
-            pieces.append(CZemVertex(inWorld(hi), inWorld(lo), 0.0));
+            addPiece(hi, lo, pieces);
         } else if (!cutDashes(CZemVertex(inLine(hi), inLine(lo), 0.0), lo, hi, pieces)) {
             return Outcome::exact;
         }
@@ -73,16 +74,9 @@ bool CZemStraightPass::spansWithin(double length, std::vector<double>& places) c
 bool CZemStraightPass::cutDashes(const CZemVertex& span, double lo, double hi, CZemVertexArray& pieces) {
     const double g = m_edges.guard();
     bool decided = true;
-    // Room for the dashes of the span at once; each is written in place.
-    const int count = pieces.len();
-    pieces.setLogicalLength(count + static_cast<int>(std::min(65536.0, m_dashes->countOver(hi - lo))) + 2);
-    pieces.setLogicalLength(count);
     m_dashes->forEachDash(m_length, lo, hi, [&](double a, double b) {
         if (a >= lo + g && b <= hi - g) {
-            CZemVertex& dash = pieces[pieces.len()];
-            dash.m_start = inWorld(a);
-            dash.m_end = inWorld(b);
-            dash.m_bulge = 0.0;
+            addPiece(a, b, pieces);
         } else if (decided && b >= lo - g && a <= hi + g) {
             decided = cutNearEnd(CZemVertex(inLine(a), inLine(b), 0.0), span, lo, hi, pieces);
         }
@@ -124,6 +118,25 @@ bool CZemStraightPass::cutNearEnd(const CZemVertex& dash, const CZemVertex& span
         pieces.append(piece);
     }
     return true;
+}
+
+// About as many pieces as the spans between the places will hold: one per
+// span of a continuous line, for a dashed one the dashes over it and one
+// more at each end.
+int CZemStraightPass::roomFor(const std::vector<double>& places) const {
+    if (!m_dashes) return static_cast<int>(places.size() / 2);
+    int room = 0;
+    for (size_t k = 0; k + 1 < places.size(); k += 2) room += m_dashes->roomOver(places[k + 1] - places[k]);
+    return room;
+}
+
+// The stretch of the line from offset `from` to `to`, in the world, written
+// into the next slot of pieces.
+void CZemStraightPass::addPiece(double from, double to, CZemVertexArray& pieces) const {
+    CZemVertex& piece = pieces[pieces.len()];
+    piece.m_start = inWorld(from);
+    piece.m_end = inWorld(to);
+    piece.m_bulge = 0.0;
 }
 
 // Whether the stretch from offset a to b holds the point at offset x.

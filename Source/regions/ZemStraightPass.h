@@ -40,6 +40,8 @@ private:
     bool cutNearEnd(const CZemVertex& dash, const CZemVertex& span, double lo, double hi, CZemVertexArray& pieces);
     bool keepPart(const CZemVertex& dash, const CZemPoint3d& cut, double a, double at, double b,
                   CZemVertexArray& part) const;
+    int roomFor(const std::vector<double>& places) const;
+    void addPiece(double from, double to, CZemVertexArray& pieces) const;
     static bool holds(double a, double b, double x, bool& sure);
     static bool clear(double difference);
     CZemPoint3d inLine(double at) const;

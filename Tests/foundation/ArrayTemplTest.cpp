@@ -27,6 +27,23 @@ TEST(ArrayTempl, GrowsByDoublingFromEightNeverShrinksAndSorts) {
     for (int k = 0; k < 6; ++k) EXPECT_EQ(a[k], sorted[5 - k]);
 }
 
+// Vertex lists keep their storage within twice what they hold, from one
+// vertex up, and a reservation is kept through emptying.
+TEST(ArrayTempl, VertexListsGrowFromOneVertex) {
+    const CZemVertex segment(CZemPoint3d(0, 0, 0), CZemPoint3d(1, 0, 0), 0.0);
+    CZemVertexArray list(segment);
+    EXPECT_EQ(list.items().physicalLength(), 1);
+    for (int k = 0; k < 4; ++k) list.append(list[0]);
+    EXPECT_EQ(list.len(), 5);
+    EXPECT_EQ(list.items().physicalLength(), 8);
+    list.setLogicalLength(0);
+    list.reserve(3);
+    EXPECT_EQ(list.items().physicalLength(), 8);
+    CZemVertexArray copy;
+    copy = CZemVertexArray(segment);
+    EXPECT_EQ(copy.items().physicalLength(), 1);
+}
+
 TEST(ArrayTempl, NegativeIndicesWrapAndEmptyArraysHandOutSharedElements) {
     CZemArrayTempl<int> a;
     for (int k = 0; k < 5; ++k) a.append(k * 10);
