@@ -10,7 +10,8 @@ median of nine repetitions on the C++ side, of five runs on the ezdxf side.
 
     Bench/regions_hatch_vs_ezdxf.py build/bench/Bench/regions_hatch [pattern file]
 
-Needs Debian's python3-ezdxf; run it with /usr/bin/python3.
+Needs Debian's python3-ezdxf (tools/bootstrap --bench installs it); run it with
+/usr/bin/python3.
 """
 import json
 import math
