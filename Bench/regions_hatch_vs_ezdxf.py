@@ -6,7 +6,8 @@ output), then hatches the same region with the same pattern lines and scales
 through ezdxf's hatching module, and prints segments, total length and seconds
 for each side with the ratio of the times. Times are CPU seconds of the
 process, so that other work on the machine does not tilt the ratio: the
-median of nine repetitions on the C++ side, of five runs on the ezdxf side.
+median of nine repetitions on the C++ side, on the ezdxf side of at least five
+runs and as many as fill a second.
 
     Bench/regions_hatch_vs_ezdxf.py build/bench/Bench/regions_hatch [pattern file]
 
@@ -70,6 +71,15 @@ def ezdxf_hatch(lines, scale):
     return segments, length, time.process_time() - start
 
 
+def ezdxf_median(lines, scale):
+    """The run of median time among at least five, and as many more as fill a
+    second, so that the short cases are not left to a few noisy runs."""
+    runs = []
+    while len(runs) < 5 or sum(run[2] for run in runs) < 1.0:
+        runs.append(ezdxf_hatch(lines, scale))
+    return sorted(runs, key=lambda run: run[2])[len(runs) // 2]
+
+
 def ours(program, patterns_file):
     """The median of nine repetitions of each Peer case of the C++ program."""
     env = dict(os.environ, ZEM_PATTERN_FILE=patterns_file)
@@ -95,8 +105,7 @@ def main():
     print(head)
     print("-" * len(head))
     for name, target, scale, segs, length, seconds in ours(sys.argv[1], patterns_file):
-        runs = sorted((ezdxf_hatch(patterns[name], scale) for _ in range(5)), key=lambda run: run[2])
-        e_segs, e_length, e_seconds = runs[2]
+        e_segs, e_length, e_seconds = ezdxf_median(patterns[name], scale)
         # Compare time per segment, so that a side with more output is not favoured.
         ratio = (e_seconds / max(e_segs, 1)) / (seconds / max(segs, 1))
         print(f"{name + '/' + str(target):<16}{scale:>10.3f} | {segs:>9}{length:>14.0f}{seconds:>10.5f} | "
