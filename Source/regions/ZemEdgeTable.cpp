@@ -48,7 +48,8 @@ void CZemEdgeTable::addElement(const CZemVertexArray& element, int index) {
 // its reach along the line. Both are worked out once per direction, with the
 // range of sides of each ring, so that a ring whose range stays clear of a
 // line is passed over. They are kept for the direction last crossed, which
-// the lines of a sweep share.
+// the lines of a sweep share up to rounding; what a direction that close
+// moves a place by stays far inside the guard distance.
 void CZemEdgeTable::projectFor(double ux, double uy) const {
     if (std::fabs(ux - m_projectedUx) + std::fabs(uy - m_projectedUy) <= 1e-15) return;
     m_projectedUx = ux;

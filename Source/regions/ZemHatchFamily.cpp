@@ -88,6 +88,7 @@ void CZemHatchFamily::uprightBox() {
     m_uprightHi.set(-inf, -inf, 0.0);
     for (int k = 0; k < m_regions.len(); ++k) {
         if (m_regions[k].isEmpty()) continue;
+        // Unturned regions are read in place rather than copied.
         if (m_rotation == 0.0) {
             growBox(m_regions[k], m_uprightLo, m_uprightHi);
         } else {
