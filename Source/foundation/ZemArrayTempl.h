@@ -2,6 +2,7 @@
 
 #include "ZemObj.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <new>
@@ -16,8 +17,9 @@
 // holds very many short ones, start from 1, so that their storage stays
 // within twice what they hold.
 //
-// Elements are moved by swapping their bytes, never by copy or move
-// constructors. An element type qualifies when an object stays valid at
+// Elements are moved by their bytes, never by copy or move constructors:
+// growing hands the storage to the C library's reallocation, and shifting
+// and reordering swap bytes. An element type qualifies when an object stays valid at
 // another address: it holds no pointer into itself and registers its address
 // nowhere. The system's element types qualify: numbers, and value classes
 // whose members are numbers, heap pointers owned by the object (strings,
@@ -27,7 +29,7 @@ class CZemArrayTempl : public CZemObj {
 public:
     CZemArrayTempl() = default;
     CZemArrayTempl(const CZemArrayTempl& other) : CZemObj() { *this = other; }
-    ~CZemArrayTempl() override { delete[] m_data; }
+    ~CZemArrayTempl() override;
 
     CZemArrayTempl& operator=(const CZemArrayTempl& other);
 
@@ -68,6 +70,8 @@ public:
     static const T& defaultElement();
 
 private:
+    static_assert(alignof(T) <= alignof(std::max_align_t), "storage comes from the C library");
+
     static void swapBytes(T& a, T& b);
     CZemArrayTempl& placeAt(int i, int newLen, const T& x);
     int resolveNegative(int i) const;
@@ -92,6 +96,12 @@ const T& CZemArrayTempl<T, kFirstRoom>::defaultElement() {
 }
 
 template <class T, std::uint32_t kFirstRoom>
+CZemArrayTempl<T, kFirstRoom>::~CZemArrayTempl() {
+    for (std::uint32_t k = 0; k < m_physLen; ++k) m_data[k].~T();
+    freeStorage(m_data);
+}
+
+template <class T, std::uint32_t kFirstRoom>
 void CZemArrayTempl<T, kFirstRoom>::swapBytes(T& a, T& b) {
     alignas(T) unsigned char buffer[sizeof(T)];
     std::memcpy(buffer, static_cast<void*>(&a), sizeof(T));
@@ -113,11 +123,9 @@ void CZemArrayTempl<T, kFirstRoom>::reserve(int n) {
     if (n <= 0 || static_cast<std::uint32_t>(n) <= m_physLen) return;
     std::uint32_t capacity = m_physLen == 0 ? kFirstRoom : m_physLen;
     while (capacity < static_cast<std::uint32_t>(n)) capacity *= 2;
-    T* storage = new T[capacity];
-    // The old slots receive the fresh default objects and die with them.
-    for (std::uint32_t k = 0; k < m_logLen; ++k) swapBytes(storage[k], m_data[k]);
-    delete[] m_data;
-    m_data = storage;
+    m_data = static_cast<T*>(growStorage(static_cast<void*>(m_data), std::size_t{capacity} * sizeof(T)));
+    // Every slot, used or not, holds a constructed element.
+    for (std::uint32_t k = m_physLen; k < capacity; ++k) ::new (static_cast<void*>(m_data + k)) T();
     m_physLen = capacity;
 }
 

@@ -17,4 +17,11 @@ public:
     static void* operator new[](std::size_t size);
     static void operator delete(void* p) noexcept;
     static void operator delete[](void* p) noexcept;
+
+    // Element storage of the arrays, also taken and given back here. It
+    // grows in place or moves bitwise (large blocks by remapping their pages
+    // rather than copying them), so only bitwise-movable elements may live in
+    // it. growStorage throws std::bad_alloc when memory runs out.
+    static void* growStorage(void* block, std::size_t bytes);
+    static void freeStorage(void* block) noexcept;
 };
