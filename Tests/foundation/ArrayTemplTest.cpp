@@ -92,3 +92,21 @@ TEST(ArrayTempl, ElementsSurviveReallocationAndRemovalAndCopiesAreDeep) {
     copy[0][0] = L"changed";
     EXPECT_TRUE(nested[0][0] == L"item 0");
 }
+
+// Growth moves every slot, so elements behind the logical length keep their
+// content too; a block large enough to be remapped keeps every element.
+TEST(ArrayTempl, GrowthKeepsSlotsBehindTheLengthAndLargeBlocks) {
+    Strings s;
+    for (int k = 0; k < 8; ++k) s.append(CZemString().format(L"s%d", k));
+    s.setLogicalLength(2);
+    s.reserve(100);
+    s.setLogicalLength(8);
+    EXPECT_TRUE(s.physicalLength() == 128 && s[7] == L"s7" && s[20].len() == 0);
+
+    CZemArrayTempl<double> big;
+    const int count = 6'000'000;  // 48 MB
+    for (int k = 0; k < count; ++k) big.append(k);
+    bool kept = true;
+    for (int k = 0; k < count; k += 997) kept = kept && big[k] == k;
+    EXPECT_TRUE(kept && big[-1] == count - 1);
+}
