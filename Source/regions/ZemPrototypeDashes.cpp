@@ -39,14 +39,12 @@ CZemVertex CZemPrototypeDashes::chordOf(const CZemVertexArray& q) const {
 }
 
 void CZemPrototypeDashes::measure(const CZemVertexArray& q, double lo, double hi, CZemVertexArray& out) {
-    const double total = q[0].m_start.distanceTo(q[0].m_end);
-    const double from = std::max(0.0, std::floor(lo / m_period) * m_period);
-    const double to = std::min(total, std::ceil(hi / m_period) * m_period);
-    const int before = out.len();
-    if (!(from < to)) return;
-    out.reserve(before + roomOver(to - from));
-    layPoints(q[0], total, from, to, out);
-    m_measured += out.len() - before;
+    const CZemVertex& line = q[0];
+    const double total = line.m_start.distanceTo(line.m_end);
+    out.reserve(out.len() + roomOver(hi - lo + m_period));
+    forEachDash(total, lo, hi, [&](double a, double b) {
+        out.append(CZemVertex(pointAt(line, a, total), pointAt(line, b, total), 0.0));
+    });
 }
 
 int CZemPrototypeDashes::roomOver(double length) const {
@@ -62,10 +60,4 @@ CZemVertexArray CZemPrototypeDashes::measureWhole(const CZemVertexArray& q) {
     for (int k = 0; k < pieces.len(); ++k) out += pieces[k];
     m_measured += out.len();
     return out;
-}
-
-void CZemPrototypeDashes::layPoints(const CZemVertex& q, double total, double from, double to,
-                                    CZemVertexArray& out) const {
-    lay(total, from, to,
-        [&](double a, double b) { out.append(CZemVertex(pointAt(q, a, total), pointAt(q, b, total), 0.0)); });
 }

@@ -44,7 +44,6 @@ public:
 private:
     template <class Visit>
     void lay(double total, double from, double to, Visit&& visit) const;
-    void layPoints(const CZemVertex& q, double total, double from, double to, CZemVertexArray& out) const;
 
     CZemArrayTempl<double> m_parm;
     std::vector<double> m_dashes;
