@@ -82,7 +82,7 @@ TEST(Dialog, ModalFormEndsWithOneOnOkAndTwoOnCancelAndItsControlsSeeKeysFirst) {
     // Control objects see keys before the dialog does.
     form.m_name.keep = true;
     form.keyDownsSeen = 0;
-    CZemModalScript kept({CZemModalScript::focusItem(kName), CZemModalScript::pressKey(VK_RETURN),
+    CZemModalScript kept({CZemModalScript::pressKeyOn(kName, VK_RETURN),
                           CZemModalScript::run([&](HWND) { form.EndDialog(7); })});
     kept.arm();
     EXPECT_EQ(form.DoModal(), 7);

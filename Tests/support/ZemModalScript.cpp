@@ -87,6 +87,14 @@ CZemModalScript::Step CZemModalScript::pressKey(UINT virtualKey) {
     };
 }
 
+CZemModalScript::Step CZemModalScript::pressKeyOn(int id, UINT virtualKey) {
+    return [id, virtualKey](HWND dialog) {
+        HWND item = GetDlgItem(dialog, id);
+        SetFocus(item);
+        CZemTestHost::postKey(item != nullptr ? item : dialog, virtualKey);
+    };
+}
+
 CZemModalScript::Step CZemModalScript::setText(int id, const wchar_t* text) {
     const std::wstring copy(text);
     return [id, copy](HWND dialog) { SetDlgItemTextW(dialog, id, copy.c_str()); };

@@ -31,6 +31,9 @@ public:
     // Common steps.
     static Step clickButton(int id);
     static Step pressKey(UINT virtualKey);
+    // Focuses a dialog item and posts the key to it, whether or not the focus
+    // has arrived yet (Wine may move it late on a busy machine).
+    static Step pressKeyOn(int id, UINT virtualKey);
     static Step setText(int id, const wchar_t* text);
     static Step focusItem(int id);
     static Step run(std::function<void(HWND)> action) { return Step(std::move(action)); }
