@@ -129,6 +129,12 @@ constexpr int kHeadLines = 8;
 constexpr int kGeometryAhead = 12;
 constexpr int kGeometryLines = 5;
 
+template <int Locality>
+void prefetchLines(const void* at, int lines) {
+    const char* bytes = static_cast<const char*>(at);
+    for (int line = 0; line < lines; ++line) __builtin_prefetch(bytes + 64 * line, 0, Locality);
+}
+
 }  // namespace
 
 // The geometry of an item lives in its own heap block, which the processor
@@ -138,11 +144,9 @@ void CZemGDX::prefetchAhead(int i) const {
     if (i + kGeometryAhead >= lenGet()) return;
     const CZemDisplayItem& item = itemAt(i + kGeometryAhead);
     const CZemVertexArray& vl = item.m_type == GDX_REG ? item.m_regl[0] : item.m_vl;
-    const char* vertices = reinterpret_cast<const char*>(vl.items().data());
-    for (int line = 0; line < kGeometryLines; ++line) __builtin_prefetch(vertices + 64 * line);
+    prefetchLines<3>(vl.items().data(), kGeometryLines);
 }
 
-void CZemGDX::prefetchItem(int i, int lines) const {
-    const char* bytes = reinterpret_cast<const char*>(&itemAt(i));
-    for (int line = 0; line < lines; ++line) __builtin_prefetch(bytes + 64 * line);
-}
+void CZemGDX::prefetchItem(int i, int lines) const { prefetchLines<3>(&itemAt(i), lines); }
+
+void CZemGDX::prefetchItemFar(int i, int lines) const { prefetchLines<2>(&itemAt(i), lines); }

@@ -199,16 +199,22 @@ protected:
     CZemMatrix3d m_viewDirectionMtx;
 
 private:
+    static constexpr int kItemLines = (sizeof(CZemDisplayItem) + 63) / 64;
+
     const CZemDisplayItem& itemAt(int i) const { return m_displayList[i]; }
     // Asks for what a full pass at item i will read some items later.
     void prefetchAhead(int i) const;
     // Asks for the first lines of item i, all of it by default.
-    void prefetchItem(int i, int lines = (sizeof(CZemDisplayItem) + 63) / 64) const;
+    void prefetchItem(int i, int lines = kItemLines) const;
+    // The same, to the second-level cache only: for reads so far ahead that
+    // the first-level cache would not keep what comes in.
+    void prefetchItemFar(int i, int lines = kItemLines) const;
     bool switchFlag(int i, unsigned long prop);
     void foldExtents(const CZemPoint3d& lo, const CZemPoint3d& hi);
     void foldVertexList(const CZemVertexArray& vl, const CZemMatrix3d& mtx);
     static void itemBounds(CZemDisplayItem& item, const CZemMatrix3d& t, CZemPoint3d& lo, CZemPoint3d& hi);
     static void vertexListBounds(const CZemVertexArray& vl, const CZemMatrix3d& t, CZemPoint3d& lo, CZemPoint3d& hi);
-    CZemArrayTempl<int> drawingOrder() const;
-    void reorder(const CZemArrayTempl<int>& order);
+    CZemArrayTempl<int> drawingOrder(bool topFirst) const;
+    // Moves the items into the given order, which it uses up.
+    void reorder(CZemArrayTempl<int>& order);
 };

@@ -20,6 +20,14 @@ int drawingLayer(const CZemDisplayItem& item) {
 
 const double kPickTolerance = 5.0;
 
+// How far ahead the passes of a sort ask for items: the heads that the
+// layers are read from, the items along a cycle of the reordering, and the
+// start of the next cycle. Each is asked for to the second-level cache,
+// which keeps what a dozen and more items bring in.
+constexpr int kLayersAhead = 32;
+constexpr int kStepsAhead = 16;
+constexpr int kCyclesAhead = 4;
+
 bool finitePoint(const CZemPoint3d& p) { return std::isfinite(p.x) && std::isfinite(p.y) && std::isfinite(p.z); }
 
 // The target of a pick in list space, with the reach of the box test: the
@@ -90,26 +98,30 @@ bool itemNear(CZemDisplayItem& item, const PickTarget& t) {
 
 bool CZemGDX::displListSort() {
     if (lenGet() == 0) return false;
-    reorder(drawingOrder());
+    CZemArrayTempl<int> order = drawingOrder(false);
+    reorder(order);
     return true;
 }
 
 // A stable counting sort by layer: position k of the result names the item
 // that goes to k. Each item is looked at once; its layer is kept for the
-// second pass.
-CZemArrayTempl<int> CZemGDX::drawingOrder() const {
+// second pass. Top first, the order is the drawing order reversed.
+CZemArrayTempl<int> CZemGDX::drawingOrder(bool topFirst) const {
     const int n = lenGet();
     std::vector<unsigned char> layers(static_cast<std::size_t>(n));
     int start[6] = {0, 0, 0, 0, 0, 0};
     for (int i = 0; i < n; ++i) {
-        if (i + 16 < n) prefetchItem(i + 16, 1);  // kind and flags
+        if (i + kLayersAhead < n) prefetchItemFar(i + kLayersAhead, 1);  // kind and flags
         layers[i] = static_cast<unsigned char>(drawingLayer(itemAt(i)));
         ++start[layers[i] + 1];
     }
     for (int layer = 1; layer < 6; ++layer) start[layer] += start[layer - 1];
     CZemArrayTempl<int> order;
     order.setLogicalLength(n);
-    for (int i = 0; i < n; ++i) order[start[layers[i]]++] = i;
+    for (int i = 0; i < n; ++i) {
+        const int k = start[layers[i]]++;
+        order[topFirst ? n - 1 - k : k] = i;
+    }
     return order;
 }
 
@@ -117,34 +129,35 @@ CZemArrayTempl<int> CZemGDX::drawingOrder() const {
 // bitwise, as their array moves them, so reordering copies no geometry. Each
 // cycle of the permutation is walked once, with one item's bytes parked in a
 // buffer. A cycle jumps about the list where the processor cannot follow, so
-// the walk asks ahead of time for the item a few steps further along its
-// cycle and, for the short cycles of a reversal, for both items of the cycle
-// that starts a few places on.
-void CZemGDX::reorder(const CZemArrayTempl<int>& order) {
+// the walk asks ahead of time for the item kStepsAhead steps further along
+// its cycle and, for the short cycles of a reversal, for both items of the
+// cycle that starts kCyclesAhead places on.
+void CZemGDX::reorder(CZemArrayTempl<int>& order) {
     const int n = order.len();
-    std::vector<int> from(order.data(), order.data() + n);
+    int* from = &order[0];
+    CZemDisplayItem* items = &m_displayList[0];
     alignas(CZemDisplayItem) unsigned char parked[sizeof(CZemDisplayItem)];
     for (int first = 0; first < n; ++first) {
-        if (first + 4 < n && from[first + 4] >= 0 && from[first + 4] != first + 4) {
-            prefetchItem(first + 4);
-            prefetchItem(from[first + 4]);
+        const int next = first + kCyclesAhead;
+        if (next < n && from[next] >= 0 && from[next] != next) {
+            prefetchItemFar(next);
+            prefetchItemFar(from[next]);
         }
         if (from[first] < 0 || from[first] == first) continue;
-        std::memcpy(parked, static_cast<void*>(&m_displayList[first]), sizeof(CZemDisplayItem));
+        std::memcpy(parked, static_cast<void*>(items + first), sizeof(CZemDisplayItem));
         int to = first, ahead = from[first];
-        for (int step = 0; step < 4 && ahead != first; ++step) ahead = from[ahead];
+        for (int step = 0; step < kStepsAhead && ahead != first; ++step) ahead = from[ahead];
         while (from[to] != first) {
             const int source = from[to];
             if (ahead != first) {
-                prefetchItem(ahead);
+                prefetchItemFar(ahead);
                 ahead = from[ahead];
             }
-            std::memcpy(static_cast<void*>(&m_displayList[to]), static_cast<void*>(&m_displayList[source]),
-                        sizeof(CZemDisplayItem));
+            std::memcpy(static_cast<void*>(items + to), static_cast<void*>(items + source), sizeof(CZemDisplayItem));
             from[to] = -1;
             to = source;
         }
-        std::memcpy(static_cast<void*>(&m_displayList[to]), parked, sizeof(CZemDisplayItem));
+        std::memcpy(static_cast<void*>(items + to), parked, sizeof(CZemDisplayItem));
         from[to] = -1;
     }
 }
@@ -155,8 +168,7 @@ int CZemGDX::imageItemGet(const CZemPoint3d& p) {
     if (lenGet() == 0) return -1;
     const PickTarget target(imagePtWc(p));
     // Sorted and then reversed, in one move of each item.
-    CZemArrayTempl<int> order = drawingOrder();
-    order.revert();
+    CZemArrayTempl<int> order = drawingOrder(true);
     reorder(order);
     for (int i = 0; i < lenGet(); ++i) {
         prefetchAhead(i);

@@ -150,6 +150,8 @@ TEST(GdxPick, SortBringsTheListIntoDrawingOrder) {
     CZemVertexArray moved;
     g.geomGet(moved, 3);
     EXPECT_TRUE(moved.len() == 1 && moved[0].m_end == CZemPoint3d(1, 1, 0)) << "items move whole";
+    EXPECT_EQ(g.imageItemGet(CZemPoint3d(-500, -500, 0)), -1);
+    for (int i = 0; i < 10; ++i) EXPECT_EQ(stackAt(g, i), expected[9 - i]) << "a pick leaves it reversed, at " << i;
 }
 
 TEST(GdxPick, TheTopmostItemWithinFiveListUnitsWinsRegionsByTheirOutline) {
