@@ -129,6 +129,11 @@ constexpr int kHeadLines = 8;
 constexpr int kGeometryAhead = 12;
 constexpr int kGeometryLines = 5;
 
+// The compiler's locality hints: the first asks for the nearest cache, the
+// second for the second-level cache and the ones behind it.
+constexpr int kToFirstLevel = 3;
+constexpr int kToSecondLevel = 2;
+
 template <int Locality>
 void prefetchLines(const void* at, int lines) {
     const char* bytes = static_cast<const char*>(at);
@@ -144,9 +149,9 @@ void CZemGDX::prefetchAhead(int i) const {
     if (i + kGeometryAhead >= lenGet()) return;
     const CZemDisplayItem& item = itemAt(i + kGeometryAhead);
     const CZemVertexArray& vl = item.m_type == GDX_REG ? item.m_regl[0] : item.m_vl;
-    prefetchLines<3>(vl.items().data(), kGeometryLines);
+    prefetchLines<kToFirstLevel>(vl.items().data(), kGeometryLines);
 }
 
-void CZemGDX::prefetchItem(int i, int lines) const { prefetchLines<3>(&itemAt(i), lines); }
+void CZemGDX::prefetchItem(int i, int lines) const { prefetchLines<kToFirstLevel>(&itemAt(i), lines); }
 
-void CZemGDX::prefetchItemFar(int i, int lines) const { prefetchLines<2>(&itemAt(i), lines); }
+void CZemGDX::prefetchItemFar(int i, int lines) const { prefetchLines<kToSecondLevel>(&itemAt(i), lines); }
