@@ -2,7 +2,11 @@
 #include "ZemBase.h"
 #include "ZemRegScan.h"
 
+#include <algorithm>
 #include <limits>
+#include <random>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -152,6 +156,33 @@ TEST(GdxPick, SortBringsTheListIntoDrawingOrder) {
     EXPECT_TRUE(moved.len() == 1 && moved[0].m_end == CZemPoint3d(1, 1, 0)) << "items move whole";
     EXPECT_EQ(g.imageItemGet(CZemPoint3d(-500, -500, 0)), -1);
     for (int i = 0; i < 10; ++i) EXPECT_EQ(stackAt(g, i), expected[9 - i]) << "a pick leaves it reversed, at " << i;
+}
+
+// Long cycles of the reordering, where it reads ahead along each cycle, and
+// the short ones of a reversal, against a stable sort of the layers.
+TEST(GdxPick, LongListsSortStablyAndAPickReversesThem) {
+    std::mt19937 random(7);
+    const int modes[] = {GDX_CM_ITEM, GDX_CM_HIGHLIGHT, GDX_CM_REFER, GDX_CM_AXIS};
+    const int layerOfMode[] = {2, 4, 3, 2};
+    CZemGDX g = newList();
+    std::vector<std::pair<int, int>> expected;  // layer, stack
+    for (int id = 0; id < 3000; ++id) {
+        const int m = static_cast<int>(random() % 4);
+        const bool isRegion = random() % 3 == 0;
+        const unsigned long flags = static_cast<unsigned long>(modes[m]) << 8;
+        if (isRegion) {
+            addRegion(g, path({id}), region({square(0, 0, 1, 1)}), flags);
+        } else {
+            addLine(g, path({id}), CZemPoint3d(), CZemPoint3d(1, 0, 0), flags);
+        }
+        expected.emplace_back(layerOfMode[m] == 2 && isRegion ? 1 : layerOfMode[m], id);
+    }
+    std::stable_sort(expected.begin(), expected.end(),
+                     [](const std::pair<int, int>& a, const std::pair<int, int>& b) { return a.first < b.first; });
+    ASSERT_TRUE(g.displListSort());
+    for (int i = 0; i < 3000; ++i) ASSERT_EQ(stackAt(g, i), expected[i].second) << "sorted, at " << i;
+    EXPECT_EQ(g.imageItemGet(CZemPoint3d(-500, -500, 0)), -1);
+    for (int i = 0; i < 3000; ++i) ASSERT_EQ(stackAt(g, i), expected[2999 - i].second) << "picked, at " << i;
 }
 
 TEST(GdxPick, TheTopmostItemWithinFiveListUnitsWinsRegionsByTheirOutline) {
