@@ -134,6 +134,7 @@ CZemArrayTempl<int> CZemGDX::drawingOrder(bool topFirst) const {
 // cycle that starts kCyclesAhead places on.
 void CZemGDX::reorder(CZemArrayTempl<int>& order) {
     const int n = order.len();
+    if (n == 0) return;  // the writing index would grow both arrays
     int* from = &order[0];
     CZemDisplayItem* items = &m_displayList[0];
     alignas(CZemDisplayItem) unsigned char parked[sizeof(CZemDisplayItem)];
