@@ -19,11 +19,12 @@
 //
 // Elements are moved by their bytes, never by copy or move constructors:
 // growing hands the storage to the C library's reallocation, and shifting
-// and reordering swap bytes. An element type qualifies when an object stays valid at
-// another address: it holds no pointer into itself and registers its address
-// nowhere. The system's element types qualify: numbers, and value classes
-// whose members are numbers, heap pointers owned by the object (strings,
-// nested arrays) and table pointers, none of which refer back into the object.
+// and reordering swap bytes. An element type qualifies when an object stays
+// valid at another address: it holds no pointer into itself and registers
+// its address nowhere. The system's element types qualify: numbers, and
+// value classes whose members are numbers, heap pointers owned by the object
+// (strings, nested arrays) and table pointers, none of which refer back into
+// the object.
 template <class T, std::uint32_t kFirstRoom = 8>
 class CZemArrayTempl : public CZemObj {
 public:

@@ -215,6 +215,6 @@ private:
     static void itemBounds(CZemDisplayItem& item, const CZemMatrix3d& t, CZemPoint3d& lo, CZemPoint3d& hi);
     static void vertexListBounds(const CZemVertexArray& vl, const CZemMatrix3d& t, CZemPoint3d& lo, CZemPoint3d& hi);
     CZemArrayTempl<int> drawingOrder(bool topFirst) const;
-    // Moves the items into the given order, which it uses up.
-    void reorder(CZemArrayTempl<int>& order);
+    // Moves the items into the given order, which it marks off as it goes.
+    void reorder(CZemArrayTempl<int> order);
 };

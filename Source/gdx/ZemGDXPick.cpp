@@ -98,8 +98,7 @@ bool itemNear(CZemDisplayItem& item, const PickTarget& t) {
 
 bool CZemGDX::displListSort() {
     if (lenGet() == 0) return false;
-    CZemArrayTempl<int> order = drawingOrder(false);
-    reorder(order);
+    reorder(drawingOrder(false));
     return true;
 }
 
@@ -132,7 +131,7 @@ CZemArrayTempl<int> CZemGDX::drawingOrder(bool topFirst) const {
 // the walk asks ahead of time for the item kStepsAhead steps further along
 // its cycle and, for the short cycles of a reversal, for both items of the
 // cycle that starts kCyclesAhead places on.
-void CZemGDX::reorder(CZemArrayTempl<int>& order) {
+void CZemGDX::reorder(CZemArrayTempl<int> order) {
     const int n = order.len();
     if (n == 0) return;  // the writing index would grow both arrays
     int* from = &order[0];
@@ -169,8 +168,7 @@ int CZemGDX::imageItemGet(const CZemPoint3d& p) {
     if (lenGet() == 0) return -1;
     const PickTarget target(imagePtWc(p));
     // Sorted and then reversed, in one move of each item.
-    CZemArrayTempl<int> order = drawingOrder(true);
-    reorder(order);
+    reorder(drawingOrder(true));
     for (int i = 0; i < lenGet(); ++i) {
         prefetchAhead(i);
         CZemDisplayItem& item = m_displayList[i];
